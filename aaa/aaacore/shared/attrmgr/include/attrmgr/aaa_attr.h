@@ -1,0 +1,224 @@
+/* aaa_attr.h: attribute lists. Making and freeing them, adding, finding and removing attributes, combining lists.
+
+   Conventions of all functions:
+   - A list is named by a handle. Every operation checks it first and answers AAA_ATTR_ERR_BAD_LIST (0, or not a list)
+     or AAA_ATTR_ERR_STALE_HANDLE (the handle table no longer knows it); both are meant by "the codes of the handle".
+   - A null pointer where a call needs one gives AAA_ATTR_ERR_BAD_ARG, before the handle is looked at. A function
+     without a result then does nothing; a reader returns 0 or null.
+   - Out-parameters are written on success only, unless a comment says otherwise.
+   - Lengths are in bytes. The length of a String (AAA_ATTR_FMT_STRING) never counts its NUL, although the list stores
+     one; the NUL of a String Attribute is counted.
+   - Numbers are in host byte order; addresses in network byte order.
+   - Values are copied into the list. A pointer to a value points into the list and holds until the list is coalesced,
+     filtered or freed.
+   - A record of a Grouped type owns the list whose handle is its value: freeing the outer list, removing the record
+     with aaa_attr_remove and replacing it free that sub-list. A sub-list has one owner.
+   - Different lists may be used by different threads at once. One list is one thread's at a time.
+   - Operations over whole lists stop at the first failing step and return its code; what was done before stays. */
+#ifndef ATTRMGR_AAA_ATTR_H
+#define ATTRMGR_AAA_ATTR_H
+
+#include <stdint.h>
+
+#include <attrmgr/aaa_attr_types.h>
+#include <attrmgr/aaa_export.h>
+
+AAA_BEGIN_DECLS
+
+/* ---- The client process ---- */
+
+/* Registers the client process; called once before lists are used. name is copied; ids points to two client
+   identifiers. A second registration returns 0 and changes nothing.
+   AAA_ATTR_ERR_BAD_ARG: name or ids null. AAA_ATTR_ERR_NO_MEMORY: no handle table, or no copy of the name. */
+AAA_API aaa_attr_cerrno aaa_attr_client_register(const char *name, const uint16_t *ids);
+
+/* The constant's name for a code ("AAA_ATTR_ERR_BAD_LIST"), "0" for 0, "<unknown>" for any other number. */
+AAA_API const char *aaa_attr_cerrno_name(aaa_attr_cerrno code);
+
+/* ---- Lists ---- */
+
+/* Makes an empty list, which the caller frees. *list is 0 on failure.
+   AAA_ATTR_ERR_NO_MEMORY: no block or no handle. */
+AAA_API aaa_attr_cerrno aaa_attr_list_alloc(aaa_attr_list_handle *list);
+
+/* Frees the list and every sub-list it owns, to any depth, in constant stack. Does nothing for a handle that does not
+   name a list. */
+AAA_API void aaa_attr_list_free(aaa_attr_list_handle list);
+
+/* 1 when the handle and every block of the list are sound, else 0. *code: 0 or the reason, AAA_ATTR_ERR_BAD_LIST or
+   AAA_ATTR_ERR_STALE_HANDLE. */
+AAA_API int is_aaa_attr_list_valid(aaa_attr_list_handle list, aaa_attr_cerrno *code);
+
+/* *empty: 1 when the list has no attribute, else 0.
+   AAA_ATTR_ERR_BAD_LIST: the list is not valid, or empty is null. AAA_ATTR_ERR_NO_MEMORY: no cursor. */
+AAA_API aaa_attr_cerrno is_aaa_attr_list_empty(aaa_attr_list_handle list, int *empty);
+
+/* The number of records in the list; removed ones count until the list is coalesced. 0 when the list is not valid. */
+AAA_API uint32_t aaa_attr_list_attr_count(aaa_attr_list_handle list);
+
+/* Stamps every attribute with the producer client type (1 to 23).
+   AAA_ATTR_ERR_BAD_ARG: type out of range and the list not empty. AAA_ATTR_ERR_NO_MEMORY: no cursor. Codes of the
+   handle. */
+AAA_API aaa_attr_cerrno aaa_attr_list_set_producer_client_type(aaa_attr_list_handle list, uint32_t client_type);
+
+/* As aaa_attr_list_set_producer_client_type, but an attribute that already carries a type of 1 to 23 keeps it. */
+AAA_API aaa_attr_cerrno aaa_attr_list_init_producer_client_type(aaa_attr_list_handle list, uint32_t client_type);
+
+/* Writes service and protocol into the two bytes at discriminator; init writes zeros. */
+AAA_API void aaa_attr_discrim_pack(uint8_t *discriminator, uint8_t service, uint8_t protocol);
+AAA_API void aaa_attr_discrim_init(uint8_t *discriminator);
+
+/* ---- Adding ----
+
+   type         an attribute type, 0 to 622
+   value        length bytes: a text without its NUL, a number, an address, or the handle of a sub-list (Grouped)
+   length       must suit the type's format: 4 for Ulong, Enum and IPv4; 16 for IPv6; 4 or 16 for Address; 8 for
+                Grouped; 1 for Boolean; 1 or more for all others
+   meta         copied with the attribute, or null for none
+   client_type  the producer client type; its low 7 bits are stored as they are
+
+   AAA_ATTR_ERR_NOT_FOUND: type above 622 (add_or_replace: also value null).
+   AAA_ATTR_ERR_BAD_ARG: value null, length 0 or unsuitable, or too long for a block of 65,535 bytes.
+   AAA_ATTR_ERR_NO_MEMORY: no block, or the list has 65,535 blocks. Codes of the handle. The list is unchanged on every
+   failure of adding. When a Grouped attribute has been added, the record owns the sub-list. */
+
+/* Appends an attribute. The unnumbered form gives no producer client type. */
+AAA_API aaa_attr_cerrno aaa_attr_add(aaa_attr_list_handle list, uint32_t type, const void *value, uint32_t length,
+                                     const aaa_attr_meta *meta);
+AAA_API aaa_attr_cerrno aaa_attr_add_v1(aaa_attr_list_handle list, uint32_t type, const void *value, uint32_t length,
+                                        const aaa_attr_meta *meta, uint32_t client_type);
+
+/* Replaces the first attribute of the type, or appends if there is none. Same length and same meta (service, protocol,
+   tag, mandatory): the value is overwritten in place, and the record keeps its producer client type. Otherwise the old
+   attribute is removed and the new one appended; should memory run out between the two, the list is left without
+   either. A sub-list that the old attribute held is freed, unless the new value is its very handle.
+   v1 appends, and leaves the old attribute, when the metas differ or only one of the two has meta.
+   v2 takes the producer client type; the unnumbered form is v2 with 0. */
+AAA_API aaa_attr_cerrno aaa_attr_add_or_replace(aaa_attr_list_handle list, uint32_t type, const void *value,
+                                                uint32_t length, const aaa_attr_meta *meta);
+AAA_API aaa_attr_cerrno aaa_attr_add_or_replace_v1(aaa_attr_list_handle list, uint32_t type, const void *value,
+                                                   uint32_t length, const aaa_attr_meta *meta);
+AAA_API aaa_attr_cerrno aaa_attr_add_or_replace_v2(aaa_attr_list_handle list, uint32_t type, const void *value,
+                                                   uint32_t length, const aaa_attr_meta *meta, uint32_t client_type);
+
+/* Makes an empty sub-list and adds it to the parent as a Grouped attribute. *sub_list: the sub-list, owned by the
+   parent and filled by the caller; 0 on failure. Codes of aaa_attr_list_alloc and of adding. */
+AAA_API aaa_attr_cerrno aaa_attr_add_group_list(aaa_attr_list_handle parent, aaa_attr_list_handle *sub_list,
+                                                uint32_t type, const aaa_attr_meta *meta);
+
+/* Adds sub_list to the parent as a Grouped attribute; from then on the parent owns it. On failure the caller keeps it.
+   Codes of adding. */
+AAA_API aaa_attr_cerrno aaa_attr_add_existing_group_list(aaa_attr_list_handle parent, aaa_attr_list_handle sub_list,
+                                                         uint32_t type, const aaa_attr_meta *meta);
+
+/* ---- Finding ----
+
+   Attributes are found in list order, removed ones not at all, type 0 never.
+   AAA_ATTR_ERR_NOT_FOUND: no such attribute. Codes of the handle. */
+
+/* 1 when the list holds an attribute of the type, else 0 (also for a handle that names no list). */
+AAA_API int aaa_attr_is_present(aaa_attr_list_handle list, uint32_t type);
+
+/* *count: the low 16 bits of the number of attributes of the type; none is no failure. */
+AAA_API aaa_attr_cerrno aaa_attr_find_attr_type_number(aaa_attr_list_handle list, uint32_t type, uint16_t *count);
+
+/* The first attribute of the type: its value, in the list, and its length. */
+AAA_API aaa_attr_cerrno aaa_attr_get(aaa_attr_list_handle list, uint32_t type, const void **value, uint32_t *length);
+
+/* The n-th attribute of the type, from 0. AAA_ATTR_ERR_NOT_FOUND also when value or length is null. */
+AAA_API aaa_attr_cerrno aaa_attr_get_nth(aaa_attr_list_handle list, uint32_t type, const void **value, uint32_t *length,
+                                         uint16_t n);
+
+/* The first attribute of a String type: its text, NUL-terminated in the list, and its length without the NUL.
+   AAA_ATTR_ERR_BAD_ARG: the type's format is not String, looked at before the handle. */
+AAA_API aaa_attr_cerrno aaa_attr_get_string(aaa_attr_list_handle list, uint32_t type, const char **text,
+                                            uint32_t *length);
+
+/* The first attribute of the type as a number; the value must hold 4 (8) bytes, whatever its format.
+   AAA_ATTR_ERR_BAD_ARG: it holds another number of bytes. */
+AAA_API aaa_attr_cerrno aaa_attr_get_uint32_t(aaa_attr_list_handle list, uint32_t type, uint32_t *value);
+AAA_API aaa_attr_cerrno aaa_attr_get_uint64_t(aaa_attr_list_handle list, uint32_t type, uint64_t *value);
+
+/* The first 4 bytes of the cursor's current attribute as a number.
+   AAA_ATTR_ERR_BAD_ARG: no current attribute, or its value is shorter. */
+AAA_API aaa_attr_cerrno aaa_attr_get_ulong_val(const aaa_cursor *cursor, uint32_t *value);
+
+/* ---- Removing ----
+
+   A removed attribute is found no more, but its record keeps its place until the list is coalesced or filtered.
+   Removing what is not there is no failure. Values are compared over their length; metas are not compared.
+   Codes of the handle; where two lists are given, AAA_ATTR_ERR_BAD_LIST if either is not valid. */
+
+/* Removes every attribute of the type, and frees the sub-lists that they hold. */
+AAA_API aaa_attr_cerrno aaa_attr_remove(aaa_attr_list_handle list, uint32_t type);
+
+/* Removes every attribute of the type with this value, a text without its NUL. A sub-list is named by its handle and
+   not freed: the caller has it back. AAA_ATTR_ERR_BAD_ARG: value null and length not 0. */
+AAA_API aaa_attr_cerrno aaa_attr_remove_on_match(aaa_attr_list_handle list, uint32_t type, const void *value,
+                                                 uint32_t length);
+
+/* Removes from list1 every attribute whose type list2 holds, and frees the sub-lists that they hold.
+   AAA_ATTR_ERR_NO_MEMORY: no cursor. */
+AAA_API aaa_attr_cerrno aaa_attr_list_remove_list(aaa_attr_list_handle list1, aaa_attr_list_handle list2);
+
+/* Removes from list1 every attribute of which list2 holds one of the same type and value; sub-lists as with
+   aaa_attr_remove_on_match. AAA_ATTR_ERR_NO_MEMORY: no cursor. */
+AAA_API aaa_attr_cerrno aaa_attr_list_remove_list_on_match(aaa_attr_list_handle list1, aaa_attr_list_handle list2);
+
+/* Removes from list1 every attribute whose type list2 holds, and with it the first one of that type from list2 if their
+   values are the same. Sub-lists are not freed. */
+AAA_API aaa_attr_cerrno aaa_attr_list_remove_common_attrs(aaa_attr_list_handle list1, aaa_attr_list_handle list2);
+
+/* ---- Combining ----
+
+   Attributes of the source are added to the destination in the source's order, with their meta; a Grouped attribute
+   with a copy of its sub-list. The source is not changed. AAA_ATTR_ERR_BAD_ARG: a handle is 0, or both name the same
+   list. Codes of the source's handle, of adding to the destination and of copying sub-lists; what was added before a
+   failure stays. */
+
+/* Makes a deep copy of the list, removed records included. *copy is the caller's to free, written on success only.
+   AAA_ATTR_ERR_NO_MEMORY. AAA_ATTR_ERR_BAD_LIST: a block of another layout version. Codes of the handles. */
+AAA_API aaa_attr_cerrno aaa_attr_list_copy(aaa_attr_list_handle source, aaa_attr_list_handle *copy);
+
+/* Adds every attribute of the source, with its producer client type. */
+AAA_API aaa_attr_cerrno aaa_attr_list_append_list(aaa_attr_list_handle destination, aaa_attr_list_handle source);
+
+/* Adds every attribute of the source as aaa_attr_add_or_replace_v2 does, with its producer client type. */
+AAA_API aaa_attr_cerrno aaa_attr_list_merge_with_replace(aaa_attr_list_handle destination, aaa_attr_list_handle source);
+
+/* Adds the source's attributes of the type, without producer client type. The source comes first here. */
+AAA_API aaa_attr_cerrno aaa_attr_list_copy_by_type(aaa_attr_list_handle source, aaa_attr_list_handle destination,
+                                                   uint32_t type);
+
+/* Removes from the destination every attribute whose type the source holds, then adds the source's attributes without
+   producer client type. AAA_ATTR_ERR_BAD_LIST and AAA_ATTR_ERR_NO_MEMORY of the removal, with a line to the standard
+   error stream. */
+AAA_API aaa_attr_cerrno aaa_attr_list_replace_and_add(aaa_attr_list_handle destination, aaa_attr_list_handle source);
+
+/* Removes from *list1 every attribute whose type *list2 holds, adds the rest to *list2 with its producer client types,
+   and exchanges the two handles: *list1 then names the whole, *list2 the rest. Codes as above. */
+AAA_API aaa_attr_cerrno aaa_attr_list_replace_and_add_v1(aaa_attr_list_handle *list1, aaa_attr_list_handle *list2);
+
+/* Adds the source's attributes without producer client type: "qos-policy-in" and "qos-policy-out" beside those that the
+   destination holds, all others as aaa_attr_add_or_replace_v2 does. */
+AAA_API aaa_attr_cerrno aaa_attr_list_merge_double_dip(aaa_attr_list_handle destination, aaa_attr_list_handle source);
+
+/* Moves the source's blocks to the end of the destination, without a copy. The source's handle is gone then.
+   AAA_ATTR_ERR_BAD_ARG: the same list. AAA_ATTR_ERR_NO_MEMORY: more than 65,535 blocks together. Codes of the handles.
+ */
+AAA_API aaa_attr_cerrno aaa_attr_list_merge_list(aaa_attr_list_handle destination, aaa_attr_list_handle source);
+
+/* Keeps the attributes of the given types and drops the others with their sub-lists. The list is rebuilt: *list becomes
+   the handle of the new one, the old handle is gone. Only the low 8 bits of count are used.
+   AAA_ATTR_ERR_BAD_ARG: list null, or types null and a count not 0. AAA_ATTR_ERR_NO_MEMORY: *list stays and the
+   attributes are dropped, but the list is not rebuilt. Codes of the handle. */
+AAA_API aaa_attr_cerrno aaa_attr_filter_on_type(aaa_attr_list_handle *list, const uint32_t *types, uint32_t count);
+
+/* 1 when each list holds, for every attribute of the other, one of the same type, value and meta, whatever the order
+   and the number of repetitions; sub-lists are compared by what they hold, without their meta. 0 for a handle that
+   names no list, but identical handles are always equal. */
+AAA_API int aaa_attr_list_eq(aaa_attr_list_handle list1, aaa_attr_list_handle list2);
+
+AAA_END_DECLS
+
+#endif

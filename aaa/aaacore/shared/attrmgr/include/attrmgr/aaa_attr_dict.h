@@ -1,0 +1,68 @@
+/* aaa_attr_dict.h: what the dictionary knows of the attribute types. Constant data, readable from any thread. */
+#ifndef ATTRMGR_AAA_ATTR_DICT_H
+#define ATTRMGR_AAA_ATTR_DICT_H
+
+#include <stdint.h>
+
+#include <attrmgr/aaa_export.h>
+
+AAA_BEGIN_DECLS
+
+#define AAA_ATTR_TYPE_COUNT 623 /* types are 0 to 622; 0 stands for no attribute */
+
+/* Value formats: how the value of a type is stored and how long it is. */
+#define AAA_ATTR_FMT_INVALID 0
+#define AAA_ATTR_FMT_STRING 1       /* text; a NUL is stored behind it and not counted in lengths */
+#define AAA_ATTR_FMT_BINARY 2       /* any bytes */
+#define AAA_ATTR_FMT_ULONG 3        /* unsigned 32-bit number, host byte order */
+#define AAA_ATTR_FMT_ULONGLONG 4    /* a 64-bit quantity as the client wrote it */
+#define AAA_ATTR_FMT_GROUPED 5      /* the handle of a sub-list, 8 bytes */
+#define AAA_ATTR_FMT_ENUM 6         /* unsigned 32-bit value number, named by the type's value table */
+#define AAA_ATTR_FMT_IPV4 7         /* 4 bytes, network order */
+#define AAA_ATTR_FMT_IPV6 8         /* 16 bytes, network order */
+#define AAA_ATTR_FMT_ADDRESS 9      /* 4 or 16 bytes, network order */
+#define AAA_ATTR_FMT_STRING_ATTR 10 /* text; the stored NUL is counted in lengths */
+#define AAA_ATTR_FMT_UTC 11         /* signed 64-bit seconds since the Unix epoch, host byte order */
+#define AAA_ATTR_FMT_BOOLEAN 12     /* 1 byte */
+#define AAA_ATTR_FMT_OPAQUE 13      /* any bytes, never shown */
+#define AAA_ATTR_FMT_SPECIAL 14     /* any bytes, never shown */
+#define AAA_ATTR_FMT_IPX_NETWORK 15
+#define AAA_ATTR_FMT_DIAMETER_IDENTITY 20 /* RFC 6733, section 4.3.1 */
+#define AAA_ATTR_FMT_IP_FILTER_RULE 21    /* RFC 6733, section 4.3.1 */
+#define AAA_ATTR_FMT_QOS_FILTER_RULE 22   /* RFC 4005, section 4.1 */
+
+/* Type flags. */
+#define AAA_ATTR_TYPE_OPAQUE 0x4u    /* a secret: displays do not show the value */
+#define AAA_ATTR_TYPE_NO_AUTHOR 0x8u /* the type has no authorization bitmap */
+
+/* The format of a type; 0 for a number that is no type. */
+AAA_API uint32_t aaa_attr_get_format_from_type(uint32_t type);
+
+/* The name of a type; "Unknown AAA Attribute" for a number that is no type. */
+AAA_API const char *aaa_attr_get_name_from_type(uint32_t type);
+
+/* The type of a name, compared byte for byte; the lower type where two share a name; 0 for an unknown name or null. */
+AAA_API uint32_t aaa_attr_get_type_from_name(const char *name);
+
+/* The name of a format; "<unknown>" for a number that is no format. */
+AAA_API const char *aaa_attr_get_format_string(uint32_t format);
+
+/* The name of a value of an Enum type; null when it has none, or for any other type. */
+AAA_API const char *aaa_attr_get_enum_name_from_type(uint32_t type, uint32_t value);
+
+/* The name of an interface type of 0 to 43; "unknown" for any other. */
+AAA_API const char *aaa_attr_get_interface_from_type(uint32_t value);
+
+/* LI attributes, types 288 to 293, are left out of every display while the debug-LI flag is 0, as it is at first. The
+   flag is one for the process and is the client's to serialise. */
+AAA_API void aaa_attr_set_debug_li(uint32_t on);
+
+/* 1 for an LI type, whatever the flag. */
+AAA_API int aaa_attr_is_attr_type_li(uint32_t type);
+
+/* 1 when text begins with the name of an LI type and "=", and the flag is 0: text to be left out. */
+AAA_API int aaa_attr_is_li_attr(const char *text);
+
+AAA_END_DECLS
+
+#endif

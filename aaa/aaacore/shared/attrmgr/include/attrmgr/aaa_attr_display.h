@@ -1,0 +1,42 @@
+/* aaa_attr_display.h: lists as text, for debugging. One numbered line an attribute; secrets are not shown, and LI
+   attributes only while the debug-LI flag is set (aaa_attr_dict.h). Lines are cut at 255 characters, never overrun. */
+#ifndef ATTRMGR_AAA_ATTR_DISPLAY_H
+#define ATTRMGR_AAA_ATTR_DISPLAY_H
+
+#include <stdint.h>
+
+#include <attrmgr/aaa_attr_types.h>
+#include <attrmgr/aaa_export.h>
+
+AAA_BEGIN_DECLS
+
+/* Receives one NUL-terminated line, valid during the call only, and the context given to the display. Its result is
+   ignored. */
+typedef int (*aaa_attr_output_fn)(char *line, uint64_t context);
+
+/* Prints the list and its sub-lists to the standard output. */
+AAA_API void aaa_attr_list_print(aaa_attr_list_handle list);
+
+/* Hands the list and its sub-lists to the output function, line by line. */
+AAA_API void aaa_attr_list_display(aaa_attr_list_handle list, aaa_attr_output_fn output, uint64_t context);
+
+/* The same in a shorter form: without meta, "value= " before the value. Sub-lists are displayed in full. */
+AAA_API void aaa_attr_list_display_brief(aaa_attr_list_handle list, aaa_attr_output_fn output, uint64_t context);
+
+/* Writes the list's lines into buffer, size bytes, cut short and NUL-terminated where they do not fit. A list without
+   shown attributes leaves the buffer as it was. */
+AAA_API void aaa_attr_list_print_to_output_buffer(aaa_attr_list_handle list, char *buffer, int32_t size);
+
+/* Hands one line to the output function: number and total length of the attributes, the longest and the shortest. */
+AAA_API void aaa_display_summ_attr_list_fn(aaa_attr_list_handle list, uint32_t ignored, aaa_attr_output_fn output,
+                                           uint64_t context);
+
+/* Writes count bytes as lowercase hexadecimal into text, size bytes with the NUL, cut short where they do not fit.
+   *length: the characters written.
+   AAA_ATTR_ERR_BAD_ARG: size or count 0, bytes, text or length null. A negative count writes no text and length 0. */
+AAA_API aaa_attr_cerrno aaa_attr_bin_to_str(const uint8_t *bytes, int32_t count, char *text, uint32_t size,
+                                            uint32_t *length);
+
+AAA_END_DECLS
+
+#endif

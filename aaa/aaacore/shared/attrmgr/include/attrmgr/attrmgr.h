@@ -1,0 +1,14 @@
+/* attrmgr.h: the whole interface. Each header also stands alone. */
+#ifndef ATTRMGR_ATTRMGR_H
+#define ATTRMGR_ATTRMGR_H
+
+#include <attrmgr/aaa_attr.h>         /* lists: making, adding, finding, removing, combining */
+#include <attrmgr/aaa_attr_dict.h>    /* attribute types, formats, names */
+#include <attrmgr/aaa_attr_display.h> /* lists as text */
+#include <attrmgr/aaa_attr_marshal.h> /* lists as bytes */
+#include <attrmgr/aaa_attr_types.h>   /* result codes, handles, attribute meta */
+#include <attrmgr/aaa_attr_values.h>  /* value names and authorization bitmaps */
+#include <attrmgr/aaa_cursor.h>       /* walking lists and buffers */
+#include <attrmgr/aaa_platform.h>     /* handle table, pools: what a process may replace */
+
+#endif
