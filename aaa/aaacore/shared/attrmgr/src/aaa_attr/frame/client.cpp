@@ -1,0 +1,43 @@
+#include "aaa_attr/frame/client.h"
+
+#include <cstring>
+
+#include <attrmgr/aaa_attr.h>
+#include <attrmgr/aaa_platform.h>
+
+namespace attrmgr {
+namespace {
+
+// Sizing hints and name for the handle table.
+constexpr std::uint32_t kTableInitial = 256;
+constexpr std::uint32_t kTableMaximum = 4096;
+constexpr char kTableName[] = "AAA Attribute List handle IDs";
+
+// One registration a process; identifiers and name are kept for whoever inspects the process.
+struct Client {
+  bool registered;
+  std::uint16_t ids[2];
+  const char *name;
+  std::uint16_t handle_table;
+} client;
+
+}  // namespace
+
+std::uint16_t handle_table() { return client.handle_table; }
+
+}  // namespace attrmgr
+
+using namespace attrmgr;
+
+aaa_attr_cerrno aaa_attr_client_register(const char *name, const std::uint16_t *ids) {
+  if (name == nullptr || ids == nullptr) return AAA_ATTR_ERR_BAD_ARG;
+  if (client.registered) return 0;
+  if (client.handle_table == 0) client.handle_table = id_create_new_table(kTableInitial, kTableMaximum, kTableName);
+  if (client.handle_table == 0) return AAA_ATTR_ERR_NO_MEMORY;
+  client.ids[0] = ids[0];
+  client.ids[1] = ids[1];
+  client.name = strdup(name);
+  if (client.name == nullptr) return AAA_ATTR_ERR_NO_MEMORY;
+  client.registered = true;
+  return 0;
+}
