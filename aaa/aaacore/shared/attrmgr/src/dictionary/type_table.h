@@ -1,0 +1,35 @@
+// The attribute type table, built at compile time from attr_types.def and author_bitmaps.def.
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include <attrmgr/aaa_attr_dict.h>
+#include <attrmgr/aaa_attr_values.h>
+
+namespace attrmgr {
+
+struct TypeRow {
+  std::uint32_t type;
+  std::uint32_t format;
+  const char *name;
+  const aaa_author_bitmap *author_flags;  // null without a bitmap
+  std::uint32_t flags;
+  std::uint32_t class_mask;
+  const aaa_attr_value_table *values;  // Enum rows only
+};
+
+extern const TypeRow kTypes[AAA_ATTR_TYPE_COUNT];
+
+// The formats of all types once more, dense: the column that every add and every walk reads.
+extern const std::array<std::uint8_t, AAA_ATTR_TYPE_COUNT> kFormats;
+
+// Null for a number that is no type.
+inline const TypeRow *row_of(std::uint32_t type) { return type < AAA_ATTR_TYPE_COUNT ? &kTypes[type] : nullptr; }
+
+// AAA_ATTR_FMT_INVALID for a number that is no type: it can arrive in a buffer.
+inline std::uint32_t format_of(std::uint32_t type) {
+  return type < AAA_ATTR_TYPE_COUNT ? kFormats[type] : std::uint32_t{AAA_ATTR_FMT_INVALID};
+}
+
+}  // namespace attrmgr
