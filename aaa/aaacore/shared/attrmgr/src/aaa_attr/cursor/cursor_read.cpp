@@ -1,0 +1,114 @@
+// Reading a cursor's current attribute.
+#include <attrmgr/aaa_attr_dict.h>
+#include <attrmgr/aaa_cursor.h>
+
+#include "aaa_attr/store/record_appender.h"
+#include "aaa_attr/walk/cursor_step.h"
+#include "dictionary/type_table.h"
+
+namespace {
+
+using namespace attrmgr;
+
+// A number of exactly this many stored bytes.
+template <class T>
+aaa_attr_cerrno read_number(const aaa_cursor *cursor, T *value) {
+  const RecordView record = current_record(cursor);
+  if (!record || value == nullptr) return AAA_ATTR_ERR_BAD_ARG;
+  if (record.length() != sizeof(T)) return AAA_ATTR_ERR_BAD_FORMAT;
+  *value = load<T>(record.value());
+  return 0;
+}
+
+const TypeRow *row_at(const aaa_cursor *cursor) {
+  const RecordView record = current_record(cursor);
+  return record ? row_of(record.type()) : nullptr;
+}
+
+}  // namespace
+
+const void *aaa_cursor_get(const aaa_cursor *cursor, std::uint32_t *length) {
+  const RecordView record = current_record(cursor);
+  if (!record || length == nullptr) return nullptr;
+  *length = reported_length(record);
+  return record.value();
+}
+
+const char *aaa_cursor_get_string(const aaa_cursor *cursor, std::uint32_t *length) {
+  if (aaa_cursor_get_format(cursor) != AAA_ATTR_FMT_STRING) return nullptr;
+  return static_cast<const char *>(aaa_cursor_get(cursor, length));
+}
+
+aaa_attr_cerrno aaa_cursor_get_uint32_t(const aaa_cursor *cursor, std::uint32_t *value) {
+  return read_number(cursor, value);
+}
+
+aaa_attr_cerrno aaa_cursor_get_uint64_t(const aaa_cursor *cursor, std::uint64_t *value) {
+  return read_number(cursor, value);
+}
+
+aaa_attr_cerrno aaa_cursor_get_grouped_attr_handle(const aaa_cursor *cursor, aaa_attr_list_handle *sub_list) {
+  return read_number(cursor, sub_list);
+}
+
+const aaa_attr_meta *aaa_cursor_get_meta(const aaa_cursor *cursor) {
+  const RecordView record = current_record(cursor);
+  if (!record || !record.has_meta()) return nullptr;
+  return reinterpret_cast<const aaa_attr_meta *>(record.meta_bytes());
+}
+
+std::uint32_t aaa_cursor_get_tag(const aaa_cursor *cursor) {
+  const RecordView record = current_record(cursor);
+  return record && record.has_meta() ? record.meta().tag() : 0;
+}
+
+std::uint32_t aaa_cursor_mandatory(const aaa_cursor *cursor) {
+  const RecordView record = current_record(cursor);
+  return record && record.has_meta() ? record.meta().flags() & AAA_ATTR_META_MANDATORY : 0;
+}
+
+std::uint32_t aaa_cursor_get_length(const aaa_cursor *cursor) {
+  const RecordView record = current_record(cursor);
+  return record ? reported_length(record) : 0;
+}
+
+std::uint32_t aaa_cursor_get_producer_client_type(const aaa_cursor *cursor) {
+  const RecordView record = current_record(cursor);
+  return record ? record.client_type() : 0;
+}
+
+std::uint32_t aaa_cursor_get_format(const aaa_cursor *cursor) {
+  const TypeRow *row = row_at(cursor);
+  return row != nullptr ? row->format : AAA_ATTR_FMT_INVALID;
+}
+
+const char *aaa_cursor_get_name(const aaa_cursor *cursor) {
+  const RecordView record = current_record(cursor);
+  return record ? aaa_attr_get_name_from_type(record.type()) : nullptr;
+}
+
+int aaa_cursor_grouped(const aaa_cursor *cursor) { return aaa_cursor_get_format(cursor) == AAA_ATTR_FMT_GROUPED; }
+
+int aaa_cursor_attr_is_class(const aaa_cursor *cursor, std::uint32_t mask) {
+  const TypeRow *row = row_at(cursor);
+  return row != nullptr && (row->class_mask & mask) != 0;
+}
+
+aaa_attr_cerrno aaa_cursor_get_offset_in_buffer(const aaa_cursor *cursor, std::uint32_t *offset) {
+  const RecordView record = current_record(cursor);
+  if (!record || offset == nullptr || !in_buffer(*cursor)) return AAA_ATTR_ERR_BAD_ARG;
+  const std::uintptr_t at = reinterpret_cast<std::uintptr_t>(record.bytes()) + kRecordHeaderSize;
+  *offset = static_cast<std::uint32_t>(at - cursor->handle);
+  return 0;
+}
+
+aaa_attr_record *aaa_cursor_get_current_attr(const aaa_cursor *cursor) {
+  return cursor != nullptr ? cursor->record : nullptr;
+}
+
+aaa_attr_cerrno aaa_attr_get_ulong_val(const aaa_cursor *cursor, std::uint32_t *value) {
+  const RecordView record = current_record(cursor);
+  if (!record || value == nullptr || record.length() < sizeof *value) return AAA_ATTR_ERR_BAD_ARG;
+  *value = load<std::uint32_t>(record.value());
+  return 0;
+}

@@ -1,0 +1,39 @@
+#include "aaa_attr/store/handle_check.h"
+
+#include <attrmgr/aaa_platform.h>
+
+#include "aaa_attr/frame/client.h"
+#include "aaa_attr/walk/list_walk.h"
+
+namespace attrmgr {
+namespace {
+
+// What a handle table says of a handle.
+constexpr std::uint32_t kStatusBad = 1;
+constexpr std::uint32_t kStatusStale = 2;
+
+}  // namespace
+
+aaa_attr_cerrno resolve(aaa_attr_list_handle list, BlockView *head) {
+  if (list == 0) return AAA_ATTR_ERR_BAD_LIST;
+  std::uint32_t status = 0;
+  const BlockView block(static_cast<std::byte *>(id_to_ptr(list, &status, handle_table())));
+  if (!block || status == kStatusStale) return AAA_ATTR_ERR_STALE_HANDLE;
+  const std::uint16_t magic = block.magic();
+  if (magic == kFreedMagic) return AAA_ATTR_ERR_STALE_HANDLE;
+  if (status == kStatusBad || magic != kBlockMagic) return AAA_ATTR_ERR_BAD_LIST;
+  *head = block;
+  return 0;
+}
+
+aaa_attr_cerrno check_whole_list(aaa_attr_list_handle list) {
+  BlockView head;
+  if (const aaa_attr_cerrno code = resolve(list, &head)) return code;
+  for (const BlockView block : Blocks(head)) {
+    if (block.magic() == kFreedMagic) return AAA_ATTR_ERR_STALE_HANDLE;
+    if (block.magic() != kBlockMagic) return AAA_ATTR_ERR_BAD_LIST;
+  }
+  return 0;
+}
+
+}  // namespace attrmgr

@@ -1,0 +1,90 @@
+#include "aaa_attr/store/list_blocks.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <limits>
+
+#include <attrmgr/aaa_platform.h>
+
+#include "aaa_attr/frame/client.h"
+#include "aaa_attr/store/handle_check.h"
+
+const std::uint16_t aaa_attr_chunk_size = attrmgr::kBlockSize;
+
+namespace attrmgr {
+namespace {
+
+// The tail hint counts in units of what malloc aligns to.
+constexpr std::ptrdiff_t kTailUnit = 16;
+
+void write_header(BlockView block, std::size_t size, std::uint8_t flags) {
+  block.set_magic(kBlockMagic);
+  block.set_version(kLayoutVersion);
+  block.set_flags(flags);
+  block.set_block_count(1);
+  block.set_record_count(0);
+  block.set_free_bytes(static_cast<std::uint16_t>(size - kHeaderSize));
+  block.set_used(kHeaderSize);
+  block.set_reserved(0);
+  block.set_next(BlockView());
+}
+
+}  // namespace
+
+aaa_attr_cerrno create_list(const void *owner, List *list) {
+  const BlockView head(static_cast<std::byte *>(malloc_pc(kBlockSize, owner)));
+  if (!head) return AAA_ATTR_ERR_NO_MEMORY;
+  write_header(head, kBlockSize, kBlockHead | kBlockLast | kBlockLayoutNative);
+  const aaa_attr_list_handle handle = id_get(head.bytes(), handle_table());
+  if (handle == 0) {
+    std::free(head.bytes());
+    return AAA_ATTR_ERR_NO_MEMORY;
+  }
+  *list = {handle, head};
+  return 0;
+}
+
+aaa_attr_cerrno create_checked_list(const void *owner, List *list) {
+  List made;
+  if (const aaa_attr_cerrno code = create_list(owner, &made)) return code;
+  BlockView named;
+  if (const aaa_attr_cerrno code = resolve(made.handle, &named)) {
+    id_delete(made.handle, handle_table());
+    std::free(made.head.bytes());
+    return code;
+  }
+  *list = made;
+  return 0;
+}
+
+BlockView aaa_attr_list_add_block(BlockView head, BlockView last, std::size_t size) {
+  if (head && head.block_count() == kBlockCountMax) return BlockView();
+  size = std::max(size, kBlockSize);
+  const BlockView block(static_cast<std::byte *>(std::malloc(size)));
+  if (!block) return block;
+  write_header(block, size, kBlockLast | kBlockLayoutNative);
+  last.set_next(block);
+  last.clear_flags(kBlockLast);
+  if (head) {
+    head.set_block_count(static_cast<std::uint16_t>(head.block_count() + 1));
+    set_tail(head, block);
+  }
+  return block;
+}
+
+BlockView last_block(BlockView head) {
+  BlockView last(head.bytes() + head.reserved() * kTailUnit);
+  while (const BlockView next = last.next()) last = next;
+  return last;
+}
+
+void set_tail(BlockView head, BlockView last) {
+  // Addresses, not pointers: the blocks are separate allocations.
+  const auto distance = reinterpret_cast<std::intptr_t>(last.bytes()) - reinterpret_cast<std::intptr_t>(head.bytes());
+  const std::intptr_t units = distance / kTailUnit;
+  const bool fits =
+      distance % kTailUnit == 0 && units > kNeverATailHint && units <= std::numeric_limits<std::int32_t>::max();
+  head.set_reserved(fits ? static_cast<std::int32_t>(units) : 0);
+}
+
+}  // namespace attrmgr

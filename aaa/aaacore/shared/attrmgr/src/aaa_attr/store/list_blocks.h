@@ -1,0 +1,40 @@
+// The blocks of a list: making a head, chaining a block, finding the last one.
+#pragma once
+
+#include <cstdint>
+#include <limits>
+
+#include <attrmgr/aaa_attr_types.h>
+
+#include "aaa_attr/store/views.h"
+
+namespace attrmgr {
+
+struct List {
+  aaa_attr_list_handle handle = 0;
+  BlockView head;
+};
+
+// Makes an empty list; owner is the code address on whose behalf. AAA_ATTR_ERR_NO_MEMORY: no block or no handle.
+[[nodiscard]] aaa_attr_cerrno create_list(const void *owner, List *list);
+
+// The same, and the new handle is looked up once: a list that the handle table refuses is released again.
+[[nodiscard]] aaa_attr_cerrno create_checked_list(const void *owner, List *list);
+
+// Allocates a block of max(512, size) bytes and chains it behind last. Counts it in the head if one is given; a caller
+// that gives none sets block count and tail itself. Null when memory is exhausted or the head counts 65,535 blocks.
+[[nodiscard]] BlockView aaa_attr_list_add_block(BlockView head, BlockView last, std::size_t size);
+
+BlockView last_block(BlockView head);
+
+// The head remembers where the last block is, as a hint in its reserved word. Everything that changes a chain calls
+// this.
+void set_tail(BlockView head, BlockView last);
+
+// What the reserved word of a head never holds as a hint.
+inline constexpr std::int32_t kNeverATailHint = std::numeric_limits<std::int32_t>::min();
+
+}  // namespace attrmgr
+
+// The code address that called the exported function in which this stands.
+#define ATTRMGR_CALLER __builtin_return_address(0)

@@ -1,0 +1,157 @@
+// Views of a packed block, record and meta: one pointer each, no ownership, passed by value. The only code that loads
+// and stores their fields, at any alignment. A view does not check bounds; what makes one does (walk.h, flat_reader.h).
+//
+// A view is a template over the form its fields are in: HostForm in lists and in buffers as they are made, NetworkForm
+// (network_form.h) in translated buffers.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+#include <attrmgr/aaa_attr_types.h>
+
+#include "aaa_attr/store/layout.h"
+
+namespace attrmgr {
+
+template <class T>
+inline T load(const std::byte *at) {
+  T value;
+  std::memcpy(&value, at, sizeof value);
+  return value;
+}
+
+template <class T>
+inline void store(std::byte *at, T value) {
+  std::memcpy(at, &value, sizeof value);
+}
+
+// Fields as the host holds them, flags allocated from bit 0 up.
+struct HostForm {
+  template <class T>
+  static T get(const std::byte *at) {
+    return load<T>(at);
+  }
+  template <class T>
+  static void put(std::byte *at, T value) {
+    store(at, value);
+  }
+  static std::uint8_t block_flags(const std::byte *at) { return load<std::uint8_t>(at); }
+  static void put_block_flags(std::byte *at, std::uint8_t flags) { store(at, flags); }
+  static std::uint16_t record_flags(const std::byte *at) { return load<std::uint16_t>(at); }
+  static void put_record_flags(std::byte *at, std::uint16_t flags) { store(at, flags); }
+  static std::uint16_t meta_flags(const std::byte *at) { return load<std::uint16_t>(at); }
+  static void put_meta_flags(std::byte *at, std::uint16_t flags) { store(at, flags); }
+};
+
+template <class Form>
+class BasicMeta {
+ public:
+  explicit BasicMeta(std::byte *at) : at_(at) {}
+
+  std::uint8_t service() const { return load<std::uint8_t>(at_ + kMetaServiceAt); }
+  std::uint8_t protocol() const { return load<std::uint8_t>(at_ + kMetaProtocolAt); }
+  std::uint16_t tag() const { return Form::template get<std::uint16_t>(at_ + kMetaTagAt); }
+  std::uint16_t flags() const { return Form::meta_flags(at_ + kMetaFlagsAt); }
+  std::uint16_t client() const { return Form::template get<std::uint16_t>(at_ + kMetaClientAt); }
+
+  void set_tag(std::uint16_t tag) { Form::put(at_ + kMetaTagAt, tag); }
+  void set_flags(std::uint16_t flags) { Form::put_meta_flags(at_ + kMetaFlagsAt, flags); }
+  void set_client(std::uint16_t client) { Form::put(at_ + kMetaClientAt, client); }
+
+ private:
+  std::byte *at_;
+};
+
+template <class Form>
+class BasicRecord {
+ public:
+  BasicRecord() = default;
+  explicit BasicRecord(std::byte *at) : at_(at) {}
+
+  explicit operator bool() const { return at_ != nullptr; }
+  std::byte *bytes() const { return at_; }
+
+  std::uint16_t type() const { return Form::template get<std::uint16_t>(at_ + kRecordTypeAt); }
+  std::uint16_t flags() const { return Form::record_flags(at_ + kRecordFlagsAt); }
+  std::uint32_t length() const { return Form::template get<std::uint32_t>(at_ + kRecordLengthAt); }
+  bool has_meta() const { return (flags() & kRecordHasMeta) != 0; }
+  bool deleted() const { return (flags() & kRecordDeleted) != 0; }
+  std::uint32_t client_type() const { return (flags() & kClientTypeMask) >> kClientTypeShift; }
+
+  // Only when has_meta().
+  BasicMeta<Form> meta() const { return BasicMeta<Form>(meta_bytes()); }
+  std::byte *meta_bytes() const { return at_ + kRecordHeaderSize; }
+  std::size_t value_at() const { return kRecordHeaderSize + (has_meta() ? kMetaSize : 0); }
+  std::byte *value() const { return at_ + value_at(); }
+  // Header, meta and value. 64 bits wide: the length may be any 32-bit number in a hostile buffer.
+  std::uint64_t size() const { return std::uint64_t{value_at()} + length(); }
+
+  void set_type(std::uint16_t type) { Form::put(at_ + kRecordTypeAt, type); }
+  void set_flags(std::uint16_t flags) { Form::put_record_flags(at_ + kRecordFlagsAt, flags); }
+  void set_length(std::uint32_t length) { Form::put(at_ + kRecordLengthAt, length); }
+  void mark_deleted() { set_flags(flags() | kRecordDeleted); }
+  void set_client_type(std::uint32_t client_type) {
+    set_flags(
+        static_cast<std::uint16_t>((flags() & ~std::uint32_t{kClientTypeMask}) | (client_type << kClientTypeShift)));
+  }
+
+ private:
+  std::byte *at_ = nullptr;
+};
+
+template <class Form>
+class BasicBlock {
+ public:
+  BasicBlock() = default;
+  explicit BasicBlock(std::byte *at) : at_(at) {}
+
+  explicit operator bool() const { return at_ != nullptr; }
+  friend bool operator==(BasicBlock, BasicBlock) = default;
+  std::byte *bytes() const { return at_; }
+
+  std::uint16_t magic() const { return Form::template get<std::uint16_t>(at_ + kBlockMagicAt); }
+  std::uint8_t version() const { return load<std::uint8_t>(at_ + kBlockVersionAt); }
+  std::uint8_t flags() const { return Form::block_flags(at_ + kBlockFlagsAt); }
+  bool has(std::uint8_t flag) const { return (flags() & flag) != 0; }
+  bool foreign() const { return (flags() & kBlockLayoutMask) == kBlockLayoutForeign; }
+  std::size_t header_size() const { return foreign() ? kForeignHeaderSize : kHeaderSize; }
+  std::uint16_t block_count() const { return Form::template get<std::uint16_t>(at_ + kBlockCountAt); }
+  std::uint16_t record_count() const { return Form::template get<std::uint16_t>(at_ + kRecordCountAt); }
+  std::uint16_t free_bytes() const { return Form::template get<std::uint16_t>(at_ + kFreeBytesAt); }
+  std::uint16_t used() const { return Form::template get<std::uint16_t>(at_ + kUsedBytesAt); }
+
+  void set_magic(std::uint16_t magic) { Form::put(at_ + kBlockMagicAt, magic); }
+  void set_version(std::uint8_t version) { store(at_ + kBlockVersionAt, version); }
+  void set_flags(std::uint8_t flags) { Form::put_block_flags(at_ + kBlockFlagsAt, flags); }
+  void add_flags(std::uint8_t more) { set_flags(flags() | more); }
+  void clear_flags(std::uint8_t gone) { set_flags(static_cast<std::uint8_t>(flags() & ~gone)); }
+  void set_block_count(std::uint16_t count) { Form::put(at_ + kBlockCountAt, count); }
+  void set_record_count(std::uint16_t count) { Form::put(at_ + kRecordCountAt, count); }
+  void set_free_bytes(std::uint16_t bytes) { Form::put(at_ + kFreeBytesAt, bytes); }
+  void set_used(std::uint16_t bytes) { Form::put(at_ + kUsedBytesAt, bytes); }
+
+  // The rest is for blocks with the 24-byte header.
+  std::byte *records() const { return at_ + kHeaderSize; }
+  std::byte *end() const { return at_ + used(); }
+  std::size_t size() const { return std::size_t{free_bytes()} + used(); }
+
+  BasicBlock next() const { return BasicBlock(load<std::byte *>(at_ + kNextAt)); }
+  void set_next(BasicBlock next) { store(at_ + kNextAt, next.at_); }
+  std::int32_t reserved() const { return load<std::int32_t>(at_ + kReservedAt); }
+  void set_reserved(std::int32_t value) { store(at_ + kReservedAt, value); }
+
+ private:
+  std::byte *at_ = nullptr;
+};
+
+using MetaView = BasicMeta<HostForm>;
+using RecordView = BasicRecord<HostForm>;
+using BlockView = BasicBlock<HostForm>;
+
+inline bool is_valid_client_type(std::uint32_t client_type) {
+  return client_type >= AAA_ATTR_CLIENT_TYPE_MIN && client_type <= AAA_ATTR_CLIENT_TYPE_MAX;
+}
+
+}  // namespace attrmgr
