@@ -1,0 +1,46 @@
+// Adding attributes and sub-lists.
+#include <attrmgr/aaa_attr.h>
+
+#include "aaa_attr/list_ops/release.h"
+#include "aaa_attr/store/list_blocks.h"
+#include "aaa_attr/store/record_appender.h"
+
+namespace {
+
+using namespace attrmgr;
+
+aaa_attr_cerrno add_sub_list(aaa_attr_list_handle parent, aaa_attr_list_handle sub_list, std::uint32_t type,
+                             const aaa_attr_meta *meta) {
+  return add_attribute(parent, {type, &sub_list, kHandleSize, meta, 0});
+}
+
+}  // namespace
+
+aaa_attr_cerrno aaa_attr_add(aaa_attr_list_handle list, std::uint32_t type, const void *value, std::uint32_t length,
+                             const aaa_attr_meta *meta) {
+  return add_attribute(list, {type, value, length, meta, 0});
+}
+
+aaa_attr_cerrno aaa_attr_add_v1(aaa_attr_list_handle list, std::uint32_t type, const void *value, std::uint32_t length,
+                                const aaa_attr_meta *meta, std::uint32_t client_type) {
+  return add_attribute(list, {type, value, length, meta, client_type});
+}
+
+aaa_attr_cerrno aaa_attr_add_group_list(aaa_attr_list_handle parent, aaa_attr_list_handle *sub_list, std::uint32_t type,
+                                        const aaa_attr_meta *meta) {
+  if (sub_list == nullptr) return AAA_ATTR_ERR_BAD_ARG;
+  *sub_list = 0;
+  List made;
+  if (const aaa_attr_cerrno code = create_list(ATTRMGR_CALLER, &made)) return code;
+  if (const aaa_attr_cerrno code = add_sub_list(parent, made.handle, type, meta)) {
+    release_list(made.handle);
+    return code;
+  }
+  *sub_list = made.handle;
+  return 0;
+}
+
+aaa_attr_cerrno aaa_attr_add_existing_group_list(aaa_attr_list_handle parent, aaa_attr_list_handle sub_list,
+                                                 std::uint32_t type, const aaa_attr_meta *meta) {
+  return add_sub_list(parent, sub_list, type, meta);
+}

@@ -1,0 +1,19 @@
+// Replacing the first attribute of a type.
+#pragma once
+
+#include <attrmgr/aaa_attr_types.h>
+
+#include "aaa_attr/store/record_appender.h"
+
+namespace attrmgr {
+
+// What becomes of the found record when the new attribute's meta differs from its own.
+enum class OnOtherMeta {
+  kAddAlongside,  // it stays
+  kSupersede,     // it is removed
+};
+
+[[nodiscard]] aaa_attr_cerrno add_or_replace(aaa_attr_list_handle list, const NewAttribute &attribute,
+                                             OnOtherMeta on_other_meta);
+
+}  // namespace attrmgr

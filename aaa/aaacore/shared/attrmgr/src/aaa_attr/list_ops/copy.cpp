@@ -1,0 +1,73 @@
+// Copying a list copies its blocks, removed records included, and then gives every Grouped record of the copy a copy of
+// its sub-list.
+#include "aaa_attr/list_ops/copy.h"
+
+#include <cstring>
+
+#include <attrmgr/aaa_attr.h>
+#include <attrmgr/aaa_attr_dict.h>
+
+#include "aaa_attr/list_ops/release.h"
+#include "aaa_attr/store/handle_check.h"
+#include "aaa_attr/store/list_blocks.h"
+#include "aaa_attr/walk/list_walk.h"
+#include "dictionary/type_table.h"
+
+namespace attrmgr {
+namespace {
+
+aaa_attr_cerrno copy_block(BlockView from, BlockView to) {
+  const std::size_t size = to.size();
+  if (from.version() != to.version() || from.used() > size) return AAA_ATTR_ERR_BAD_LIST;
+  std::memcpy(to.bytes(), from.bytes(), from.used());
+  to.set_free_bytes(static_cast<std::uint16_t>(size - from.used()));
+  to.set_reserved(0);
+  to.set_next(BlockView());
+  return 0;
+}
+
+aaa_attr_cerrno copy_blocks(BlockView source, BlockView copy) {
+  BlockView from = source;
+  BlockView to = copy;
+  aaa_attr_cerrno code = copy_block(from, to);
+  while (code == 0 && (from = from.next())) {
+    to = aaa_attr_list_add_block(BlockView(), to, from.used());
+    code = to ? copy_block(from, to) : AAA_ATTR_ERR_NO_MEMORY;
+  }
+  if (code == 0) set_tail(copy, to);
+  return code;
+}
+
+// After a failure the handles that were copied with the blocks become 0, so that releasing the copy leaves the source's
+// sub-lists alone.
+aaa_attr_cerrno copy_sub_lists(BlockView copy, const void *owner, aaa_attr_cerrno code) {
+  for (const RecordView record : LiveRecords(copy)) {
+    if (format_of(record.type()) != AAA_ATTR_FMT_GROUPED || record.length() != kHandleSize) continue;
+    aaa_attr_list_handle sub_copy = 0;
+    if (code == 0) code = copy_list(load<aaa_attr_list_handle>(record.value()), owner, &sub_copy);
+    store(record.value(), sub_copy);
+  }
+  return code;
+}
+
+}  // namespace
+
+aaa_attr_cerrno copy_list(aaa_attr_list_handle source, const void *owner, aaa_attr_list_handle *copy) {
+  BlockView from;
+  if (const aaa_attr_cerrno code = resolve(source, &from)) return code;
+  List made;
+  if (const aaa_attr_cerrno code = create_checked_list(owner, &made)) return code;
+  const aaa_attr_cerrno code = copy_sub_lists(made.head, owner, copy_blocks(from, made.head));
+  if (code != 0) {
+    release_list(made.handle);
+    return code;
+  }
+  *copy = made.handle;
+  return 0;
+}
+
+}  // namespace attrmgr
+
+aaa_attr_cerrno aaa_attr_list_copy(aaa_attr_list_handle source, aaa_attr_list_handle *copy) {
+  return copy != nullptr ? attrmgr::copy_list(source, ATTRMGR_CALLER, copy) : AAA_ATTR_ERR_BAD_ARG;
+}

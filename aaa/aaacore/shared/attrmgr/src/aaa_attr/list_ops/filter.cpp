@@ -1,0 +1,75 @@
+// Cutting a list down to a set of types. The kept attributes move to a new list without holes.
+#include <attrmgr/aaa_attr.h>
+#include <attrmgr/aaa_attr_dict.h>
+
+#include "aaa_attr/list_ops/release.h"
+#include "aaa_attr/list_ops/remove.h"
+#include "aaa_attr/list_ops/type_set.h"
+#include "aaa_attr/store/handle_check.h"
+#include "aaa_attr/store/list_blocks.h"
+#include "aaa_attr/store/record_appender.h"
+#include "aaa_attr/walk/list_walk.h"
+
+namespace {
+
+using namespace attrmgr;
+
+// The types that a caller wants kept.
+class Kept {
+ public:
+  Kept(const std::uint32_t *types, std::uint8_t count) : types_(types), count_(count) {
+    for (std::uint8_t i = 0; i < count; ++i) set_.insert(types[i]);
+  }
+
+  bool contains(std::uint32_t type) const {
+    return set_.may_contain(type) && (type < AAA_ATTR_TYPE_COUNT || listed(type));
+  }
+
+ private:
+  bool listed(std::uint32_t type) const {
+    for (std::uint8_t i = 0; i < count_; ++i)
+      if (types_[i] == type) return true;
+    return false;
+  }
+
+  const std::uint32_t *types_;
+  std::uint8_t count_;
+  TypeSet set_;
+};
+
+aaa_attr_cerrno append_kept(BlockView from, BlockView to) {
+  for (const RecordView record : Attributes(from))
+    if (const aaa_attr_cerrno code = add_attribute(to, attribute_of(record))) return code;
+  return 0;
+}
+
+// The new list owns the sub-lists of the kept records now.
+void give_up_sub_lists(BlockView from) {
+  for (const RecordView record : Attributes(from))
+    if (format_of(record.type()) == AAA_ATTR_FMT_GROUPED) store(record.value(), aaa_attr_list_handle{0});
+}
+
+}  // namespace
+
+aaa_attr_cerrno aaa_attr_filter_on_type(aaa_attr_list_handle *list, const std::uint32_t *types, std::uint32_t count) {
+  const auto num_types = static_cast<std::uint8_t>(count);
+  if (list == nullptr || (types == nullptr && num_types != 0)) return AAA_ATTR_ERR_BAD_ARG;
+  BlockView old;
+  if (const aaa_attr_cerrno code = resolve(*list, &old)) return code;
+  const Kept kept(types, num_types);
+  for (const RecordView record : Attributes(old))
+    if (!kept.contains(record.type())) remove_with_sub_list(record);
+
+  List made;
+  if (const aaa_attr_cerrno code = create_list(ATTRMGR_CALLER, &made)) return code;
+  aaa_attr_cerrno code = resolve(*list, &old);
+  if (code == 0) code = append_kept(old, made.head);
+  if (code != 0) {
+    release_without_sub_lists(made.handle, made.head);
+    return code;
+  }
+  give_up_sub_lists(old);
+  release_list(*list);
+  *list = made.handle;
+  return 0;
+}
