@@ -1,0 +1,92 @@
+// Translating flat buffers between host and network form: the structure is checked in whole, then each block is
+// rewritten field by field, read through the view of the one form and written through the view of the other.
+#include <attrmgr/aaa_attr_dict.h>
+#include <attrmgr/aaa_attr_marshal.h>
+
+#include "aaa_attr/store/network_form.h"
+#include "aaa_attr/walk/flat_reader.h"
+#include "dictionary/type_table.h"
+
+namespace {
+
+using namespace attrmgr;
+
+constexpr std::uint32_t kNumberSize = 4;
+
+bool is_number(std::uint32_t format) { return format == AAA_ATTR_FMT_ULONG || format == AAA_ATTR_FMT_ENUM; }
+
+template <class Form>
+bool length_holds(BasicRecord<Form> record) {
+  const std::uint32_t format = format_of(record.type());
+  if (is_number(format)) return record.length() == kNumberSize;
+  if (format == AAA_ATTR_FMT_BOOLEAN) return record.length() == 1;
+  if (format == AAA_ATTR_FMT_GROUPED) return record.length() == kHandleSize;
+  return true;
+}
+
+template <class Form>
+bool holds_together(FlatReader<Form> reader) {
+  while (reader.next())
+    for (BasicRecordScan<Form> scan = reader.records(); scan.next();)
+      if (!length_holds(scan.record())) return false;
+  return reader.complete();
+}
+
+template <class From, class To>
+void translate_meta(BasicMeta<From> from, BasicMeta<To> to) {
+  to.set_tag(from.tag());
+  to.set_flags(from.flags());
+  to.set_client(from.client());
+}
+
+template <class From, class To>
+void translate_record(BasicRecord<From> from) {
+  BasicRecord<To> to(from.bytes());
+  if (is_number(format_of(from.type()))) To::put(from.value(), From::template get<std::uint32_t>(from.value()));
+  if (from.has_meta()) translate_meta(from.meta(), BasicMeta<To>(from.meta_bytes()));
+  to.set_type(from.type());
+  to.set_flags(from.flags());
+  to.set_length(from.length());
+}
+
+template <class From, class To>
+void translate_header(BasicBlock<From> from) {
+  BasicBlock<To> to(from.bytes());
+  to.set_magic(from.magic());
+  to.set_flags(from.flags());
+  to.set_block_count(from.block_count());
+  to.set_record_count(from.record_count());
+  to.set_free_bytes(from.free_bytes());
+  to.set_used(from.used());
+}
+
+template <class From, class To>
+aaa_attr_cerrno translate(std::byte *list, std::uint64_t length) {
+  FlatReader<From> reader(list, length, FlatRules::kWhole);
+  if (!holds_together(reader)) return AAA_ATTR_ERR_BAD_BUFFER;
+  while (reader.next()) {
+    // The scan is a step ahead of the record that it hands out, and the header is rewritten last.
+    for (BasicRecordScan<From> scan = reader.records(); scan.next();) translate_record<From, To>(scan.record());
+    translate_header<From, To>(reader.block());
+  }
+  return 0;
+}
+
+aaa_attr_cerrno translate_buffer(char *buffer, std::uint64_t length, cdm_endian_tran_type direction) {
+  if (buffer == nullptr || length == 0) return AAA_ATTR_ERR_BAD_ARG;
+  auto *bytes = reinterpret_cast<std::byte *>(buffer);
+  if (bytes[0] != std::byte{AAA_MARSHAL_BUFFER}) return AAA_ATTR_ERR_BAD_ARG;
+  if (direction == CDM_ENDIAN_TRAN_HTON) return translate<HostForm, NetworkForm>(bytes + 1, length - 1);
+  if (direction == CDM_ENDIAN_TRAN_NTOH) return translate<NetworkForm, HostForm>(bytes + 1, length - 1);
+  return AAA_ATTR_ERR_BAD_ARG;
+}
+
+}  // namespace
+
+aaa_attr_cerrno aaa_attrs_buffer_tran(char *buffer, cdm_endian_tran_type direction) {
+  return translate_buffer(buffer, kUnknownLength, direction);
+}
+
+aaa_attr_cerrno aaa_attrs_buffer_tran_v1(char *buffer, std::uint32_t length, cdm_endian_tran_type direction) {
+  return translate_buffer(buffer, length, direction);
+}

@@ -1,0 +1,81 @@
+#include "aaa_attr/marshal/coalesce.h"
+
+#include <cstdlib>
+#include <cstring>
+
+#include <attrmgr/aaa_attr_dict.h>
+
+#include "aaa_attr/store/handle_check.h"
+#include "aaa_attr/store/list_blocks.h"
+#include "aaa_attr/walk/record_scan.h"
+#include "dictionary/type_table.h"
+
+namespace attrmgr {
+namespace {
+
+// Records that follow each other without a removed one between them; they move with one copy.
+struct Run {
+  std::byte *begin;
+  std::byte *end;
+
+  // Moves the run down to `to` and returns the byte behind it there.
+  std::byte *move_to(std::byte *to) const {
+    const std::size_t size = static_cast<std::size_t>(end - begin);
+    if (to != begin) std::memmove(to, begin, size);
+    return to + size;
+  }
+};
+
+void pack(BlockView block) {
+  const std::size_t size = block.size();
+  std::byte *to = block.records();
+  Run run{to, to};
+  std::uint16_t live = 0;
+  bool grouped = false;
+  for (RecordScan scan(block); scan.next();) {
+    const RecordView record = scan.record();
+    std::byte *behind = record.bytes() + record.size();
+    if (!record.deleted()) {
+      ++live;
+      grouped |= format_of(record.type()) == AAA_ATTR_FMT_GROUPED;
+      run.end = behind;
+    } else {
+      to = run.move_to(to);
+      run = {behind, behind};
+    }
+  }
+  to = run.move_to(to);
+
+  const std::size_t used = static_cast<std::size_t>(to - block.bytes());
+  std::memset(to, 0, size - used);
+  block.clear_flags(kBlockHoldsGrouped | kBlockReserved);
+  if (grouped) block.add_flags(kBlockHoldsGrouped);
+  block.set_record_count(live);
+  block.set_used(static_cast<std::uint16_t>(used));
+  block.set_free_bytes(static_cast<std::uint16_t>(size - used));
+}
+
+}  // namespace
+
+aaa_attr_cerrno aaa_attr_list_coalesce(aaa_attr_list_handle list) {
+  BlockView head;
+  if (const aaa_attr_cerrno code = resolve(list, &head)) return code;
+  BlockView kept = head;
+  for (BlockView block = head; block;) {
+    const BlockView next = block.next();
+    pack(block);
+    if (block != head && block.record_count() == 0) {
+      kept.set_next(next);
+      if (!next) kept.add_flags(kBlockLast);
+      head.set_block_count(static_cast<std::uint16_t>(head.block_count() - 1));
+      std::free(block.bytes());
+    } else {
+      kept = block;
+    }
+    block = next;
+  }
+  set_tail(head, kept);
+  return 0;
+}
+
+}  // namespace attrmgr

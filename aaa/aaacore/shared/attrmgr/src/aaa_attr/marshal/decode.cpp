@@ -1,0 +1,42 @@
+// Received buffers become lists, by their marker.
+#include <attrmgr/aaa_attr_marshal.h>
+
+#include "aaa_attr/list_ops/release.h"
+#include "aaa_attr/marshal/flat_decode.h"
+#include "aaa_attr/marshal/tlv_decode.h"
+#include "aaa_attr/store/list_blocks.h"
+
+namespace {
+
+using namespace attrmgr;
+
+aaa_attr_cerrno decode(const std::byte *buffer, std::uint32_t length, const List &list, const void *owner) {
+  switch (std::to_integer<int>(buffer[0])) {
+    case 0:
+    case AAA_MARSHAL_BUFFER:
+      return aaa_attr_buffer_blocks_to_list(buffer + 1, length - 1, list, owner);
+    case AAA_MARSHAL_TLV:
+      return aaa_attr_tlv_buffer_to_list(buffer + 1, length - 1, list.head, owner);
+    default:
+      return AAA_ATTR_ERR_BAD_ARG;
+  }
+}
+
+}  // namespace
+
+aaa_attr_cerrno aaa_attr_buffer_to_list(const void *buffer, std::uint32_t length, aaa_attr_list_handle *list) {
+  if (buffer == nullptr || length == 0 || list == nullptr) return AAA_ATTR_ERR_BAD_ARG;
+  const void *owner = ATTRMGR_CALLER;
+  List made;
+  if (const aaa_attr_cerrno code = create_checked_list(owner, &made)) return code;
+  const aaa_attr_cerrno code = decode(static_cast<const std::byte *>(buffer), length, made, owner);
+  if (code != 0) release_list(made.handle);
+  *list = code == 0 ? made.handle : 0;
+  return code;
+}
+
+int aaa_attr_buffer_is_alien(const void *buffer, std::uint32_t length) {
+  const auto *bytes = static_cast<const std::byte *>(buffer);
+  if (bytes == nullptr || length < 1 + kHeaderSize || bytes[0] != std::byte{AAA_MARSHAL_BUFFER}) return 0;
+  return BlockView(const_cast<std::byte *>(bytes + 1)).foreign();
+}
