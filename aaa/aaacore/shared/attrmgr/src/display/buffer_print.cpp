@@ -1,0 +1,67 @@
+// A flat buffer on the standard output, read where it lies.
+#include <cinttypes>
+#include <cstdio>
+
+#include <attrmgr/aaa_attr_marshal.h>
+#include <attrmgr/aaa_cursor.h>
+
+#include "aaa_attr/cursor/pooled_cursor.h"
+#include "aaa_attr/walk/cursor_step.h"
+#include "aaa_attr/walk/flat_reader.h"
+#include "display/render.h"
+#include "display/shown.h"
+
+namespace {
+
+using namespace attrmgr;
+
+void print_attribute(RecordView record, int number) {
+  TextLine<kLineSize> line;
+  aaa_attr_to_string(record, line, RenderMode::kBuffer);
+  std::printf("\n%d:  %s", number, line.text());
+}
+
+// The nested lists behind the block that a cursor stands in, taken one by one: the k-th belongs to the k-th live
+// Grouped record of the block.
+class NestedLists {
+ public:
+  // The next list, or null where none holds together.
+  const std::byte *take(BlockView block) {
+    if (block != block_) {
+      block_ = block;
+      next_ = block.has(kBlockHoldsGrouped) ? block.end() : nullptr;
+    }
+    if (next_ == nullptr) return nullptr;
+    FlatReader<HostForm> reader(next_, kUnknownLength, FlatRules::kTrusted);
+    while (reader.next()) {
+    }
+    const std::byte *taken = reader.complete() ? next_ : nullptr;
+    next_ = reader.complete() ? reader.behind() : nullptr;
+    return taken;
+  }
+
+ private:
+  BlockView block_;
+  const std::byte *next_ = nullptr;
+};
+
+}  // namespace
+
+void aaa_attr_list_buffer_print(const void *buffer) {
+  aaa_cursor *cursor = nullptr;
+  if (aaa_cursor_alloc_from_buffer(buffer, &cursor) != 0) return;
+  std::printf("\nAttribute list: %" PRIuPTR, reinterpret_cast<std::uintptr_t>(buffer));
+  NestedLists nested;
+  int number = 0;
+  while (aaa_cursor_get_next(cursor) != 0) {
+    const RecordView record = record_of(*cursor);
+    if (!is_shown(record)) continue;
+    print_attribute(record, ++number);
+    aaa_attr_list_handle sender_handle;
+    if (!nests_list(record, &sender_handle)) continue;
+    std::printf("\nGrouped attribute: %" PRIu32, static_cast<std::uint32_t>(sender_handle));
+    // The byte before the nested list stands for its marker; it is not read.
+    if (const std::byte *list = nested.take(block_of(*cursor))) aaa_attr_list_buffer_print(list - 1);
+  }
+  aaa_cursor_free(cursor);
+}

@@ -1,0 +1,39 @@
+// A list on the standard output.
+#include <cinttypes>
+#include <cstdio>
+
+#include <attrmgr/aaa_attr_display.h>
+
+#include "display/render.h"
+#include "display/shown.h"
+
+namespace {
+
+using namespace attrmgr;
+
+void print_attribute(RecordView record, int number) {
+  TextLine<kLineSize> line;
+  aaa_attr_to_string(record, line, RenderMode::kList);
+  std::fprintf(stdout, "%d:  %s\n", number, line.text());
+}
+
+}  // namespace
+
+void aaa_attr_list_print(aaa_attr_list_handle list) {
+  BlockView head;
+  if (resolve(list, &head) != 0) {
+    std::fprintf(stdout, "\nBad List %" PRIx64, list);
+    return;
+  }
+  std::fprintf(stdout, "\nAttribute list: %" PRIx64 "\n", list);
+  int number = 0;
+  for (const RecordView record : Attributes(head)) {
+    if (!is_shown(record)) continue;
+    print_attribute(record, ++number);
+    aaa_attr_list_handle sub_list;
+    if (!nests_list(record, &sub_list)) continue;
+    std::fprintf(stdout, "Grouped attribute: %" PRIx64 "\n", sub_list);
+    aaa_attr_list_print(sub_list);
+    std::fprintf(stdout, "End of group list: %" PRIx64 "\n", sub_list);
+  }
+}
