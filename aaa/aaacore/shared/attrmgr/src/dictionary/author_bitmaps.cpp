@@ -18,7 +18,7 @@ constexpr std::size_t kServices = AAA_AUTHOR_SERVICES;
 constexpr std::size_t kProtocols = AAA_AUTHOR_PROTOCOLS;
 static_assert(std::size(names::service) == kServices);
 static_assert(std::size(names::protocol) == kProtocols);
-static_assert(kServices * kProtocols <= AAA_AUTHOR_BITMAP_SIZE * 8);
+static_assert(kServices * kProtocols <= std::size_t{8} * AAA_AUTHOR_BITMAP_SIZE);
 
 template <std::size_t N>
 constexpr std::size_t value_of(const char *const (&table)[N], std::string_view name) {

@@ -29,7 +29,7 @@ class NameIndex {
  private:
   static constexpr std::size_t kSlots = 2048;  // a third full: most names are found at the first probe
   static constexpr std::uint16_t kEmpty = 0xFFFF;
-  static_assert(kSlots >= 3 * AAA_ATTR_TYPE_COUNT);
+  static_assert(kSlots / 3 >= AAA_ATTR_TYPE_COUNT);
 
   // FNV-1a.
   static constexpr std::uint32_t hash(std::string_view name) {

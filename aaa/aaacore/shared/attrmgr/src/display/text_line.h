@@ -70,6 +70,7 @@ class TextWriter {
 template <std::size_t N>
 class TextLine : public TextWriter {
  public:
+  // cppcheck-suppress uninitMemberVar ; the writer begins it with a NUL
   TextLine() : TextWriter(storage_, N) {}
   TextLine(const TextLine &) = delete;
   TextLine &operator=(const TextLine &) = delete;

@@ -2,6 +2,7 @@
 // (the first of equals), and dotted decimal for an IPv4 address that a well-known prefix of RFC 4291 section 2.5.5
 // embeds.
 #include <charconv>
+#include <cstddef>
 #include <cstdint>
 
 #include <attrmgr/aaa_platform.h>
@@ -51,7 +52,7 @@ char *put_ipv4(char *at, const std::uint8_t *bytes) {
 char *ipv6_address_to_string(const std::uint8_t *address, char *text) {
   if (address == nullptr || text == nullptr) return text;
   unsigned groups[kGroups];
-  for (int i = 0; i < kGroups; ++i) groups[i] = static_cast<unsigned>(address[2 * i] << 8 | address[2 * i + 1]);
+  for (std::size_t i = 0; i < kGroups; ++i) groups[i] = unsigned{address[2 * i]} << 8 | address[2 * i + 1];
   ZeroRun zeros = longest_zero_run(groups);
   const bool mixed = embeds_ipv4(groups, zeros);
   if (zeros.length < 2) zeros = {kGroups, 0};

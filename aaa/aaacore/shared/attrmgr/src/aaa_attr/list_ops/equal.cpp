@@ -20,14 +20,14 @@ bool is_grouped(RecordView record) { return format_of(record.type()) == AAA_ATTR
 
 aaa_attr_list_handle sub_list_of(RecordView record) { return load<aaa_attr_list_handle>(record.value()); }
 
+// Null for a record that holds no list: comparing it is cheap. A Grouped record whose handle names no list is one of
+// those, it equals only the same handle.
 BlockView sub_list_head(RecordView record) {
   BlockView head;
-  return resolve(sub_list_of(record), &head) == 0 ? head : BlockView();
+  return is_grouped(record) && resolve(sub_list_of(record), &head) == 0 ? head : BlockView();
 }
 
-// Whether comparing the record means comparing lists. A Grouped record whose handle names none equals only the same
-// handle.
-bool holds_list(RecordView record) { return is_grouped(record) && sub_list_head(record); }
+bool holds_list(RecordView record) { return static_cast<bool>(sub_list_head(record)); }
 
 bool same_meta(RecordView a, RecordView b) {
   if (a.has_meta() != b.has_meta()) return false;
@@ -46,19 +46,25 @@ class MatchMarks {
  public:
   explicit MatchMarks(BlockView list) : list_(list) {}
   ~MatchMarks() {
-    for (const RecordView record : Attributes(list_))
-      if (marked(record)) put_hint_back(sub_list_head(record));
+    for (const RecordView record : Attributes(list_)) put_hint_back(record);
   }
   MatchMarks(const MatchMarks &) = delete;
   MatchMarks &operator=(const MatchMarks &) = delete;
 
-  static void mark(RecordView record) { sub_list_head(record).set_reserved(kMark); }
-  static bool marked(RecordView record) { return holds_list(record) && sub_list_head(record).reserved() == kMark; }
+  static void mark(RecordView record) {
+    if (BlockView head = sub_list_head(record)) head.set_reserved(kMark);
+  }
+  static bool marked(RecordView record) {
+    const BlockView head = sub_list_head(record);
+    return head && head.reserved() == kMark;
+  }
 
  private:
   static constexpr std::int32_t kMark = kNeverATailHint;
 
-  static void put_hint_back(BlockView head) {
+  static void put_hint_back(RecordView record) {
+    BlockView head = sub_list_head(record);
+    if (!head || head.reserved() != kMark) return;
     head.set_reserved(0);
     set_tail(head, last_block(head));
   }
@@ -66,17 +72,7 @@ class MatchMarks {
   BlockView list_;
 };
 
-// A walk that can stand still.
-class Position {
- public:
-  explicit Position(BlockView head) : at_(Attributes(head).begin()) {}
-  bool ended() const { return !(at_ != WalkEnd{}); }
-  RecordView record() const { return ended() ? RecordView() : *at_; }
-  void advance() { ++at_; }
-
- private:
-  Attributes::Iterator at_;
-};
+using Position = Attributes::Iterator;  // at a null record behind the last
 
 bool has_plain_match(RecordView wanted, BlockView list) {
   for (const RecordView record : Attributes(list))
@@ -86,8 +82,8 @@ bool has_plain_match(RecordView wanted, BlockView list) {
 
 // Behind `from`, every record that holds no list has a match in the list.
 bool plain_records_match(Position from, BlockView list) {
-  for (; !from.ended(); from.advance())
-    if (!holds_list(from.record()) && !has_plain_match(from.record(), list)) return false;
+  for (; *from; ++from)
+    if (!holds_list(*from) && !has_plain_match(*from, list)) return false;
   return true;
 }
 
@@ -95,25 +91,25 @@ bool plain_records_match(Position from, BlockView list) {
 // `from1` and `from2`, match already; those two do not match each other.
 bool sub_lists_match(BlockView list1, BlockView list2, Position from1, Position from2) {
   const MatchMarks marks(list2);
-  for (Position at(list2); at.record().bytes() != from2.record().bytes(); at.advance())
-    if (holds_list(at.record())) MatchMarks::mark(at.record());
+  for (Position at(list2); *at && *at != *from2; ++at)
+    if (holds_list(*at)) MatchMarks::mark(*at);
 
   bool before_difference = true;
   for (const RecordView own : Attributes(list1)) {
-    if (own.bytes() == from1.record().bytes()) before_difference = false;
+    if (own == *from1) before_difference = false;
     if (!holds_list(own)) continue;
     bool matched = before_difference;
     for (const RecordView other : Attributes(list2)) {
       if (other.type() != own.type() || (matched && MatchMarks::marked(other))) continue;
-      if (own.bytes() == from1.record().bytes() && other.bytes() == from2.record().bytes()) continue;
+      if (own == *from1 && other == *from2) continue;
       if (!matches(own, other)) continue;
       matched = true;
       MatchMarks::mark(other);
     }
     if (!matched) return false;
   }
-  for (; !from2.ended(); from2.advance())
-    if (holds_list(from2.record()) && !MatchMarks::marked(from2.record())) return false;
+  for (; *from2; ++from2)
+    if (holds_list(*from2) && !MatchMarks::marked(*from2)) return false;
   return true;
 }
 
@@ -126,11 +122,11 @@ bool lists_equal(aaa_attr_list_handle handle1, aaa_attr_list_handle handle2) {
 
   Position at1(list1);
   Position at2(list2);
-  while (!at1.ended() && !at2.ended() && matches(at1.record(), at2.record())) {
-    at1.advance();
-    at2.advance();
+  while (*at1 && *at2 && matches(*at1, *at2)) {
+    ++at1;
+    ++at2;
   }
-  if (at1.ended() && at2.ended()) return true;
+  if (!*at1 && !*at2) return true;
   return plain_records_match(at1, list2) && plain_records_match(at2, list1) && sub_lists_match(list1, list2, at1, at2);
 }
 

@@ -22,10 +22,10 @@ namespace {
 // knows it first and not a moment later deserves a word.
 BlockView head_to_release(aaa_attr_list_handle list) {
   BlockView head;
-  if (resolve(list, &head) != 0) return BlockView();
+  if (resolve(list, &head) != 0) return {};
   if (const aaa_attr_cerrno code = resolve(list, &head)) {
     std::fprintf(stderr, "\nCursor init failed in aaa_attr_list_free - ret %d", static_cast<int>(code));
-    return BlockView();
+    return {};
   }
   return head;
 }

@@ -9,7 +9,7 @@ namespace attrmgr {
 inline RecordView find_nth(BlockView head, std::uint32_t type, std::uint32_t n) {
   for (const RecordView record : Attributes(head))
     if (record.type() == type && n-- == 0) return record;
-  return RecordView();
+  return {};
 }
 
 inline RecordView find_first(BlockView head, std::uint32_t type) { return find_nth(head, type, 0); }

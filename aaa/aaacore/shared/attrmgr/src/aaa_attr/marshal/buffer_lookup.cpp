@@ -20,7 +20,7 @@ RecordView find_in_buffer(const std::byte *bytes, std::uint32_t type) {
       if (scan.record().type() == type) return scan.record();
     if (!scan.complete()) break;
   }
-  return RecordView();
+  return {};
 }
 
 }  // namespace

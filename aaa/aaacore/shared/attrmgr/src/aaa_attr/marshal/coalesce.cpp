@@ -20,7 +20,7 @@ struct Run {
 
   // Moves the run down to `to` and returns the byte behind it there.
   std::byte *move_to(std::byte *to) const {
-    const std::size_t size = static_cast<std::size_t>(end - begin);
+    const auto size = static_cast<std::size_t>(end - begin);
     if (to != begin) std::memmove(to, begin, size);
     return to + size;
   }
@@ -46,7 +46,7 @@ void pack(BlockView block) {
   }
   to = run.move_to(to);
 
-  const std::size_t used = static_cast<std::size_t>(to - block.bytes());
+  const auto used = static_cast<std::size_t>(to - block.bytes());
   std::memset(to, 0, size - used);
   block.clear_flags(kBlockHoldsGrouped | kBlockReserved);
   if (grouped) block.add_flags(kBlockHoldsGrouped);

@@ -3,7 +3,7 @@
 #include <attrmgr/aaa_platform.h>
 
 #include "aaa_attr/frame/client.h"
-#include "aaa_attr/walk/list_walk.h"
+#include "aaa_attr/store/list_blocks.h"
 
 namespace attrmgr {
 namespace {

@@ -58,7 +58,7 @@ aaa_attr_cerrno create_checked_list(const void *owner, List *list) {
 }
 
 BlockView aaa_attr_list_add_block(BlockView head, BlockView last, std::size_t size) {
-  if (head && head.block_count() == kBlockCountMax) return BlockView();
+  if (head && head.block_count() == kBlockCountMax) return {};
   size = std::max(size, kBlockSize);
   const BlockView block(static_cast<std::byte *>(std::malloc(size)));
   if (!block) return block;

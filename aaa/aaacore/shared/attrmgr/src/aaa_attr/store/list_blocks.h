@@ -1,4 +1,4 @@
-// The blocks of a list: making a head, chaining a block, finding the last one.
+// The blocks of a list: making a head, chaining a block, finding the last one, going over all.
 #pragma once
 
 #include <cstdint>
@@ -33,6 +33,34 @@ void set_tail(BlockView head, BlockView last);
 
 // What the reserved word of a head never holds as a hint.
 inline constexpr std::int32_t kNeverATailHint = std::numeric_limits<std::int32_t>::min();
+
+// What a range-based for over a walk ends with.
+struct WalkEnd {};
+
+// for (BlockView block : Blocks(head))
+class Blocks {
+ public:
+  class Iterator {
+   public:
+    explicit Iterator(BlockView block) : block_(block) {}
+    BlockView operator*() const { return block_; }
+    Iterator &operator++() {
+      block_ = block_.next();
+      return *this;
+    }
+    bool operator!=(WalkEnd) const { return static_cast<bool>(block_); }
+
+   private:
+    BlockView block_;
+  };
+
+  explicit Blocks(BlockView head) : head_(head) {}
+  Iterator begin() const { return Iterator(head_); }
+  WalkEnd end() const { return {}; }
+
+ private:
+  BlockView head_;
+};
 
 }  // namespace attrmgr
 

@@ -63,7 +63,7 @@ aaa_attr_cerrno check_length(const NewAttribute &attribute) {
 }
 
 aaa_attr_cerrno append_record(BlockView head, const NewAttribute &attribute) {
-  const std::size_t size = static_cast<std::size_t>(record_size(attribute));
+  const auto size = static_cast<std::size_t>(record_size(attribute));
   BlockView block = last_block(head);
   if (size > block.free_bytes()) {
     block = aaa_attr_list_add_block(head, block, size + kHeaderSize);

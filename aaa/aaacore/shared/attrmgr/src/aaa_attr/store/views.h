@@ -71,6 +71,7 @@ class BasicRecord {
   explicit BasicRecord(std::byte *at) : at_(at) {}
 
   explicit operator bool() const { return at_ != nullptr; }
+  friend bool operator==(BasicRecord, BasicRecord) = default;
   std::byte *bytes() const { return at_; }
 
   std::uint16_t type() const { return Form::template get<std::uint16_t>(at_ + kRecordTypeAt); }

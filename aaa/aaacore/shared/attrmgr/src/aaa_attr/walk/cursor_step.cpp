@@ -24,7 +24,7 @@ std::uint16_t live_grouped_records(BlockView block) {
 // In a buffer the list goes on behind the nested lists of the block, if `next` says that it goes on at all. Null when
 // it does not, or when the nested lists do not hold together.
 BlockView next_block_in_buffer(BlockView block) {
-  if (!block.next()) return BlockView();
+  if (!block.next()) return {};
   if (!block.has(kBlockHoldsGrouped)) return BlockView(block.end());
   FlatReader<HostForm> nested(block.end(), kUnknownLength, FlatRules::kTrusted, live_grouped_records(block));
   while (nested.next()) {
@@ -56,17 +56,17 @@ void enter(aaa_cursor *cursor, BlockView block) {
 }
 
 RecordView step(aaa_cursor *cursor) {
-  if (!record_of(*cursor)) return RecordView();
+  if (!record_of(*cursor)) return {};
   for (;;) {
     while (cursor->left == 0)
-      if (!enter_next_block(cursor)) return RecordView();
+      if (!enter_next_block(cursor)) return {};
     const BlockView block = block_of(*cursor);
     const bool first = (cursor->flags & AAA_CURSOR_BEFORE_FIRST) != 0;
     std::byte *at = first ? block.records() : record_of(*cursor).bytes() + record_of(*cursor).size();
     RecordScan scan(at, block.end(), cursor->left);
     if (!scan.next()) {
       end_walk(cursor);
-      return RecordView();
+      return {};
     }
     cursor->record = reinterpret_cast<aaa_attr_record *>(at);
     cursor->flags &= static_cast<std::uint16_t>(~AAA_CURSOR_BEFORE_FIRST);

@@ -1,6 +1,5 @@
-// Walks over a list in memory, as ranges:
+// Walks over the records of a list in memory, as ranges:
 //
-//   for (BlockView block : Blocks(head))          its blocks
 //   for (RecordView record : LiveRecords(head))   every record that is not removed; for what a list owns
 //   for (RecordView record : Attributes(head))    the same, up to a record of type 0, where a client's walk ends
 //   for (RecordView record : BlockRecords(block)) the live records of one block
@@ -8,36 +7,11 @@
 // Records appended to the block that a walk stands in are not visited; removing the current record is safe.
 #pragma once
 
+#include "aaa_attr/store/list_blocks.h"
 #include "aaa_attr/store/views.h"
 #include "aaa_attr/walk/record_scan.h"
 
 namespace attrmgr {
-
-struct WalkEnd {};
-
-class Blocks {
- public:
-  class Iterator {
-   public:
-    explicit Iterator(BlockView block) : block_(block) {}
-    BlockView operator*() const { return block_; }
-    Iterator &operator++() {
-      block_ = block_.next();
-      return *this;
-    }
-    bool operator!=(WalkEnd) const { return static_cast<bool>(block_); }
-
-   private:
-    BlockView block_;
-  };
-
-  explicit Blocks(BlockView head) : head_(head) {}
-  Iterator begin() const { return Iterator(head_); }
-  WalkEnd end() const { return {}; }
-
- private:
-  BlockView head_;
-};
 
 enum class WalkScope { kBlock, kList, kClient };
 
@@ -46,31 +20,30 @@ class RecordWalk {
  public:
   class Iterator {
    public:
-    explicit Iterator(BlockView first) : block_(first), scan_(first) { find_live(); }
-    RecordView operator*() const { return scan_.record(); }
+    explicit Iterator(BlockView first) : block_(first), scan_(first) { ++*this; }
+    RecordView operator*() const { return record_; }  // null at the end
+    bool operator!=(WalkEnd) const { return static_cast<bool>(record_); }
+
     Iterator &operator++() {
-      find_live();
+      record_ = next_live();
+      if (kScope == WalkScope::kClient && record_ && record_.type() == 0) record_ = {};
       return *this;
     }
-    bool operator!=(WalkEnd) const { return static_cast<bool>(block_); }
 
    private:
-    void find_live() {
+    RecordView next_live() {
       for (;;) {
-        while (scan_.next()) {
-          const RecordView record = scan_.record();
-          if (record.deleted()) continue;
-          if (kScope == WalkScope::kClient && record.type() == 0) block_ = BlockView();
-          return;
-        }
+        while (scan_.next())
+          if (!scan_.record().deleted()) return scan_.record();
         block_ = kScope == WalkScope::kBlock ? BlockView() : block_.next();
-        if (!block_) return;
+        if (!block_) return {};
         scan_ = RecordScan(block_);
       }
     }
 
     BlockView block_;
     RecordScan scan_;
+    RecordView record_;
   };
 
   explicit RecordWalk(BlockView first) : first_(first) {}

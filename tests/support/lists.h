@@ -1,0 +1,140 @@
+// What the tests build lists and bytes with, over the public interface.
+#pragma once
+
+#include <attrmgr/attrmgr.h>
+
+#include <cstdint>
+#include <cstring>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+// Types of the dictionary, one of each format, that many tests use.
+namespace type {
+inline constexpr std::uint32_t kUlong = 2;           // ipv4-icmp-unreachable
+inline constexpr std::uint32_t kEnum = 3;            // Acct-Status-Type
+inline constexpr std::uint32_t kIpv4 = 7;            // addr
+inline constexpr std::uint32_t kIpv6 = 11;           // addrv6
+inline constexpr std::uint32_t kBoolean = 25;        // force-local-chap
+inline constexpr std::uint32_t kBinary = 30;         // user-data
+inline constexpr std::uint32_t kSecret = 145;        // password
+inline constexpr std::uint32_t kUtc = 186;           // start_time
+inline constexpr std::uint32_t kString = 197;        // username
+inline constexpr std::uint32_t kPrefix = 224;        // prefix
+inline constexpr std::uint32_t kClientId = 258;      // dhcp-client-id
+inline constexpr std::uint32_t kLi = 293;            // intercept-id
+inline constexpr std::uint32_t kAddress = 429;       // HOST IP Address
+inline constexpr std::uint32_t kGrouped = 444;       // Failed AVP
+inline constexpr std::uint32_t kOtherGrouped = 445;  // Experimental result AVP
+inline constexpr std::uint32_t kUlonglong = 453;     // Input octets
+}  // namespace type
+
+// A list that is freed with the scope, unless it is released to a new owner.
+class List {
+ public:
+  List() { aaa_attr_list_alloc(&handle_); }
+  explicit List(aaa_attr_list_handle handle) : handle_(handle) {}
+  List(List &&other) noexcept : handle_(other.release()) {}
+  List &operator=(List &&other) noexcept {
+    std::swap(handle_, other.handle_);
+    return *this;
+  }
+  ~List() { aaa_attr_list_free(handle_); }
+
+  operator aaa_attr_list_handle() const { return handle_; }
+  aaa_attr_list_handle *out() { return &handle_; }
+  aaa_attr_list_handle release() { return std::exchange(handle_, 0); }
+
+  List &text(std::uint32_t type, std::string_view value, const aaa_attr_meta *meta = nullptr) {
+    aaa_attr_add(handle_, type, value.data(), static_cast<std::uint32_t>(value.size()), meta);
+    return *this;
+  }
+  List &number(std::uint32_t type, std::uint32_t value, const aaa_attr_meta *meta = nullptr) {
+    aaa_attr_add(handle_, type, &value, sizeof value, meta);
+    return *this;
+  }
+  // Adds an empty sub-list, which this list owns.
+  aaa_attr_list_handle group(std::uint32_t type, const aaa_attr_meta *meta = nullptr) {
+    aaa_attr_list_handle sub_list = 0;
+    aaa_attr_add_group_list(handle_, &sub_list, type, meta);
+    return sub_list;
+  }
+
+ private:
+  aaa_attr_list_handle handle_ = 0;
+};
+
+using Bytes = std::vector<std::uint8_t>;
+
+// Bytes from hexadecimal digits; blanks and line ends are passed over, '#' begins a comment that ends with the line.
+inline Bytes hex(std::string_view digits) {
+  Bytes bytes;
+  int high = -1;
+  bool comment = false;
+  for (const char c : digits) {
+    if (c == '#' || c == '\n') comment = c == '#';
+    if (comment) continue;
+    const std::size_t value = std::string_view("0123456789abcdef").find(static_cast<char>(c | 0x20));
+    if (value == std::string_view::npos) continue;
+    if (high < 0) {
+      high = static_cast<int>(value);
+    } else {
+      bytes.push_back(static_cast<std::uint8_t>(high * 16 + static_cast<int>(value)));
+      high = -1;
+    }
+  }
+  return bytes;
+}
+
+// The list as a flat buffer (as it stands), as a TLV buffer; empty on failure.
+inline Bytes flat_buffer(aaa_attr_list_handle list) {
+  std::uint32_t size = 0;
+  aaa_attr_list_to_buffer(list, nullptr, &size);
+  Bytes buffer(size);
+  return aaa_attr_list_to_buffer(list, buffer.data(), &size) == 0 ? buffer : Bytes();
+}
+inline Bytes tlv_buffer(aaa_attr_list_handle list) {
+  std::uint32_t size = 0;
+  aaa_attr_list_tlv_to_buffer(list, nullptr, &size);
+  Bytes buffer(size);
+  return aaa_attr_list_tlv_to_buffer(list, buffer.data(), &size) == 0 ? buffer : Bytes();
+}
+
+inline aaa_attr_cerrno decode(const Bytes &buffer, List *list) {
+  *list = List(0);
+  return aaa_attr_buffer_to_list(buffer.data(), static_cast<std::uint32_t>(buffer.size()), list->out());
+}
+
+// A list's attributes as text, "type=value" each: what it holds and in which order. Values in hexadecimal, sub-lists in
+// braces; a meta as "[service,protocol,tag,flags,client]" and a producer client type as "@n" behind the type.
+inline std::string outline(aaa_attr_list_handle list) {
+  std::string text;
+  aaa_cursor *cursor = nullptr;
+  if (aaa_cursor_alloc(list, &cursor) != 0) text = "bad list";
+  while (const std::uint32_t type = aaa_cursor_get_next(cursor)) {
+    if (!text.empty()) text += ' ';
+    text += std::to_string(type);
+    if (const aaa_attr_meta *meta = aaa_cursor_get_meta(cursor))
+      text += '[' + std::to_string(meta->service) + ',' + std::to_string(meta->protocol) + ',' +
+              std::to_string(meta->tag) + ',' + std::to_string(meta->flags) + ',' + std::to_string(meta->client) + ']';
+    if (const std::uint32_t client_type = aaa_cursor_get_producer_client_type(cursor))
+      text += '@' + std::to_string(client_type);
+    text += '=';
+    if (aaa_cursor_grouped(cursor)) {
+      aaa_attr_list_handle sub_list = 0;
+      aaa_cursor_get_grouped_attr_handle(cursor, &sub_list);
+      text += '{' + outline(sub_list) + '}';
+      continue;
+    }
+    std::uint32_t length = 0;
+    const auto *value = static_cast<const std::uint8_t *>(aaa_cursor_get(cursor, &length));
+    for (std::uint32_t i = 0; i < length; ++i) {
+      constexpr char kDigits[] = "0123456789abcdef";
+      text += kDigits[value[i] >> 4];
+      text += kDigits[value[i] & 0xF];
+    }
+  }
+  aaa_cursor_free(cursor);
+  return text;
+}
