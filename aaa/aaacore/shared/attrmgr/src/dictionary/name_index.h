@@ -34,7 +34,8 @@ class NameIndex {
   // FNV-1a.
   static constexpr std::uint32_t hash(std::string_view name) {
     std::uint32_t value = 2166136261u;
-    for (const char c : name) value = (value ^ static_cast<unsigned char>(c)) * 16777619u;
+    for (const char c : name)
+      value = static_cast<std::uint32_t>((value ^ static_cast<unsigned char>(c)) * std::uint64_t{16777619});
     return value ^ (value >> 15);
   }
 

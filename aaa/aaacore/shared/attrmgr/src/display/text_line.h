@@ -34,7 +34,10 @@ class TextWriter {
   TextWriter &put(char c) { return put(std::string_view(&c, 1)); }
 
   TextWriter &put_decimal(std::uint64_t number) { return put_number(number, 10); }
-  TextWriter &put_signed(std::int64_t number) { return put_number(number, 10); }
+  TextWriter &put_signed(std::int64_t number) {
+    if (number >= 0) return put_decimal(static_cast<std::uint64_t>(number));
+    return put('-').put_decimal(static_cast<std::uint64_t>(-(number + 1)) + 1);
+  }
   TextWriter &put_hex(std::uint64_t number) { return put_number(number, 16); }
 
   // Two lowercase hexadecimal digits.
@@ -49,8 +52,7 @@ class TextWriter {
   TextWriter &put_right(std::string_view piece, std::size_t width) { return pad(piece, width).put(piece); }
 
  private:
-  template <class T>
-  TextWriter &put_number(T number, int base) {
+  TextWriter &put_number(std::uint64_t number, int base) {
     char digits[24];
     const std::to_chars_result end = std::to_chars(digits, digits + sizeof digits, number, base);
     return put(std::string_view(digits, static_cast<std::size_t>(end.ptr - digits)));

@@ -74,8 +74,8 @@ struct chunk_pool {
     if (memory == nullptr) return false;
     const Locked locked(shard);
     shard.chunks = new (memory) Chunk{shard.chunks};
-    for (std::size_t i = elements_per_chunk; i-- > 0;)
-      shard.free = new (memory + kChunkHeader + i * element_size) FreeElement{shard.free};
+    for (std::size_t i = elements_per_chunk; i > 0; --i)
+      shard.free = new (memory + kChunkHeader + (i - 1) * element_size) FreeElement{shard.free};
     return true;
   }
 };

@@ -1,4 +1,5 @@
 // Reading a cursor's current attribute.
+#include <attrmgr/aaa_attr.h>
 #include <attrmgr/aaa_attr_dict.h>
 #include <attrmgr/aaa_cursor.h>
 

@@ -7,8 +7,11 @@ namespace attrmgr {
 
 // The n-th live record of the type, from 0; null when there are fewer.
 inline RecordView find_nth(BlockView head, std::uint32_t type, std::uint32_t n) {
-  for (const RecordView record : Attributes(head))
-    if (record.type() == type && n-- == 0) return record;
+  for (const RecordView record : Attributes(head)) {
+    if (record.type() != type) continue;
+    if (n == 0) return record;
+    --n;
+  }
   return {};
 }
 
