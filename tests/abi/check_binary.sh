@@ -1,0 +1,36 @@
+#!/usr/bin/env bash
+# Holds a built shared library against symbols.txt (what it exports, no more and no less) and imports.txt (what it may
+# ask for), and sees that it needs the C library and nothing else.
+set -eu
+export LC_ALL=C
+library=$1
+here=$(dirname "$0")
+nm=${NM:-nm}
+readelf=${READELF:-readelf}
+failed=0
+
+# The names of an expectation file, comments left out.
+names() { sed 's/#.*//; s/[[:space:]]*$//; /^$/d' "$here/$1" | sort; }
+
+# Says each line of standard input with the text in front; any line is a failure.
+complain() {
+  local line
+  while read -r line; do
+    echo "$1: $line"
+    failed=1
+  done
+}
+
+exported=$("$nm" -D --defined-only "$library" | awk '$2 != "A" { sub(/@.*/, "", $3); print $3 }' | sort)
+imported=$("$nm" -D --undefined-only "$library" | awk '{ sub(/@.*/, "", $2); print $2 }' | sort)
+needed=$("$readelf" -d "$library" | sed -n 's/.*(NEEDED).*\[\(.*\)\]/\1/p')
+if [ -z "$exported" ] || [ -z "$imported" ]; then
+  echo "no symbols read from $library"
+  exit 1
+fi
+
+complain "exported, but not in symbols.txt" < <(comm -23 <(echo "$exported") <(names symbols.txt))
+complain "in symbols.txt, but not exported" < <(comm -13 <(echo "$exported") <(names symbols.txt))
+complain "imported, but not allowed by imports.txt" < <(comm -23 <(echo "$imported") <(names imports.txt))
+complain "needs a library beside the C library" < <(grep -vx 'libc\.so\.6' <<<"$needed")
+exit $failed
