@@ -2,6 +2,7 @@
 // goes on counting, so that full() tells whether something was cut.
 #pragma once
 
+#include <algorithm>
 #include <charconv>
 #include <cstddef>
 #include <cstdint>
@@ -60,7 +61,8 @@ class TextWriter {
 
   TextWriter &pad(std::string_view piece, std::size_t width) {
     constexpr std::string_view kBlanks = "                ";
-    return piece.size() < width ? put(kBlanks.substr(0, width - piece.size())) : *this;
+    if (piece.size() >= width) return *this;
+    return put(std::string_view(kBlanks.data(), std::min(kBlanks.size(), width - piece.size())));
   }
 
   char *text_;

@@ -13,14 +13,14 @@ class TypeSet {
  public:
   void insert(std::uint32_t type) {
     if (type < AAA_ATTR_TYPE_COUNT) {
-      types_.set(type);
+      types_[type] = true;
     } else {
       others_ = true;
     }
   }
 
   // Whether the type is in the set; for a number outside the dictionary, whether it may be.
-  bool may_contain(std::uint32_t type) const { return type < AAA_ATTR_TYPE_COUNT ? types_.test(type) : others_; }
+  bool may_contain(std::uint32_t type) const { return type < AAA_ATTR_TYPE_COUNT ? types_[type] : others_; }
 
  private:
   std::bitset<AAA_ATTR_TYPE_COUNT> types_;

@@ -18,7 +18,7 @@ RecordView find_in_buffer(const std::byte *bytes, std::uint32_t type) {
     RecordScan scan = reader.records();
     while (scan.next())
       if (scan.record().type() == type) return scan.record();
-    if (!scan.complete()) break;
+    if (scan.overrun()) break;
   }
   return {};
 }

@@ -83,11 +83,14 @@ bool FlatReader<Form>::enter_block() {
 
 template <class Form>
 bool FlatReader<Form>::enter_list() {
-  if (!block_.has(kBlockHead) || block_.block_count() == 0) return false;
+  // The translation takes a block that is no head for a list of its own.
+  const bool head = block_.has(kBlockHead);
+  const std::uint16_t blocks = head ? block_.block_count() : 1;
+  if (blocks == 0 || (!head && rules_ != FlatRules::kWhole)) return false;
   if (depth_ > AAA_ATTR_NESTING_MAX) return false;
   --levels_[depth_].lists_left;
   ++depth_;
-  levels_[depth_].blocks_left = block_.block_count();
+  levels_[depth_].blocks_left = blocks;
   return true;
 }
 
@@ -107,7 +110,7 @@ bool FlatReader<Form>::count_nested(std::uint16_t *nested) const {
     if (format == AAA_ATTR_FMT_GROUPED) ++grouped;
   }
   *nested = holds_grouped ? grouped : 0;
-  return rules_ == FlatRules::kTrusted ? scan.complete() : scan.exact();
+  return rules_ == FlatRules::kTrusted ? !scan.overrun() : scan.exact();
 }
 
 template class FlatReader<HostForm>;

@@ -30,9 +30,10 @@ class BasicRecordScan {
 
   BasicRecord<Form> record() const { return record_; }
 
-  // After next() gave false: every record was seen; they filled the used bytes exactly.
-  bool complete() const { return left_ == 0; }
+  // After next() gave false: the records were as many as counted and filled the used bytes exactly.
   bool exact() const { return left_ == 0 && at_ == end_; }
+  // After next() gave false: it was at a record that would pass the used bytes.
+  bool overrun() const { return left_ > 0 && at_ != end_; }
 
  private:
   std::byte *at_ = nullptr;
