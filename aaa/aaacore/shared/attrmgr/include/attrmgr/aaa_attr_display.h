@@ -1,5 +1,6 @@
 /* aaa_attr_display.h: lists as text, for debugging. One numbered line an attribute; secrets are not shown, and LI
-   attributes only while the debug-LI flag is set (aaa_attr_dict.h). Lines are cut at 255 characters, never overrun. */
+   attributes only while the debug-LI flag is set (aaa_attr_dict.h). The text of
+   an attribute is cut at 255 characters, never overrun. */
 #ifndef ATTRMGR_AAA_ATTR_DISPLAY_H
 #define ATTRMGR_AAA_ATTR_DISPLAY_H
 

@@ -1,6 +1,7 @@
 /* aaa_cursor.h: walking a list, or a flat buffer in place, attribute by attribute.
 
      aaa_cursor *cursor;
+     uint32_t type;
      if (aaa_cursor_alloc(list, &cursor) == 0)
        while ((type = aaa_cursor_get_next(cursor)) != 0)
          ...;                               // read the current attribute

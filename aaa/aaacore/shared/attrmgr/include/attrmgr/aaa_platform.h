@@ -1,8 +1,9 @@
 /* aaa_platform.h: what the library asks of the process around it.
 
    The library defines every function here and calls each through its dynamic symbol: a process that brings its own
-   definition of one group (the operating system's pools, a handle table that maps handles) gets its own called, in a
-   static link as well. Replace a group as a whole. The library's own definitions never end the process. */
+   definition (the operating system's pools, a handle table that maps handles) gets its own called, in a static link as
+   well. Functions that share what a pool or a table is are replaced together. The library's own definitions never end
+   the process. */
 #ifndef ATTRMGR_AAA_PLATFORM_H
 #define ATTRMGR_AAA_PLATFORM_H
 
@@ -74,8 +75,9 @@ AAA_API void aaa_base_destroy_chunk_cursor(void);
    memory is taken: a list's first block names the call in the client that made the list. Null when exhausted. */
 AAA_API void *malloc_pc(size_t size, const void *owner);
 
-/* The owner recorded for an allocation that the library's own malloc_pc made. */
-AAA_API const void *malloc_pc_owner(const void *allocation);
+/* The owner recorded for an allocation of size bytes that the library's own malloc_pc made (a list's first block has
+   aaa_attr_chunk_size bytes). */
+AAA_API const void *malloc_pc_owner(const void *allocation, size_t size);
 
 /* Writes the text form of a 16-byte IPv6 address (RFC 5952) into text, at least AAA_IPV6_TEXT_SIZE bytes with the
    NUL, and returns text. */

@@ -145,8 +145,9 @@ class Renderer {
     Ipv6 address;
     std::uint8_t prefix_length;
     if (aaa_attr_decode_ipv6_prefix(prefix.bytes, address.bytes, &prefix_length) != 0) return;
-    if (mode_ != RenderMode::kBuffer)
-      std::memcpy(record_.value(), prefix.bytes, std::min<std::size_t>(sizeof prefix, record_.length()));
+    const std::size_t held = std::min<std::size_t>(sizeof prefix, record_.length());
+    const bool cleared = std::memcmp(record_.value(), prefix.bytes, held) != 0;
+    if (cleared && mode_ != RenderMode::kBuffer) std::memcpy(record_.value(), prefix.bytes, held);
     put_ipv6(address.bytes);
     line_.put("/").put_decimal(prefix_length);
   }

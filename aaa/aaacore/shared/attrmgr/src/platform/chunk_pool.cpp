@@ -80,8 +80,8 @@ struct chunk_pool {
   }
 };
 
-chunk_pool *chunk_create(const char *, std::uint32_t element_size, std::uint32_t elements_per_chunk, std::uint32_t,
-                         std::uint32_t, std::uint32_t) {
+[[gnu::weak]] chunk_pool *chunk_create(const char *, std::uint32_t element_size, std::uint32_t elements_per_chunk,
+                                       std::uint32_t, std::uint32_t, std::uint32_t) {
   if (element_size == 0 || elements_per_chunk == 0) return nullptr;
   const std::size_t size = round_up(element_size);
   if (size > (SIZE_MAX - kChunkHeader) / elements_per_chunk) return nullptr;
@@ -90,7 +90,7 @@ chunk_pool *chunk_create(const char *, std::uint32_t element_size, std::uint32_t
   return new (memory) chunk_pool{size, elements_per_chunk, {}};
 }
 
-void *chunk_malloc(chunk_pool *pool) {
+[[gnu::weak]] void *chunk_malloc(chunk_pool *pool) {
   if (pool == nullptr) return nullptr;
   const unsigned own = shard_of_this_thread();
   do {
@@ -100,14 +100,14 @@ void *chunk_malloc(chunk_pool *pool) {
   return nullptr;
 }
 
-void chunk_free(chunk_pool *pool, void *element) {
+[[gnu::weak]] void chunk_free(chunk_pool *pool, void *element) {
   if (pool == nullptr || element == nullptr) return;
   Shard &shard = pool->shards[shard_of_this_thread()];
   const Locked locked(shard);
   shard.free = new (element) FreeElement{shard.free};
 }
 
-void chunk_destroy(chunk_pool *pool) {
+[[gnu::weak]] void chunk_destroy(chunk_pool *pool) {
   if (pool == nullptr) return;
   for (Shard &shard : pool->shards) {
     while (shard.chunks != nullptr) {

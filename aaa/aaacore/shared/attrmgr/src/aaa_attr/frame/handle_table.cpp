@@ -1,16 +1,18 @@
 // The library's own handle table: a handle is the address of the list's first block. Called through the dynamic
-// symbols, so that a process can bring a table that really maps handles.
+// symbols, and weak for static links, so that a process can bring a table that really maps handles.
 #include <cstdint>
 
 #include <attrmgr/aaa_platform.h>
 
-std::uint16_t id_create_new_table(std::uint32_t, std::uint32_t, const char *) { return 1; }
+[[gnu::weak]] std::uint16_t id_create_new_table(std::uint32_t, std::uint32_t, const char *) { return 1; }
 
-std::uint64_t id_get(void *first_block, std::uint16_t) { return reinterpret_cast<std::uintptr_t>(first_block); }
+[[gnu::weak]] std::uint64_t id_get(void *first_block, std::uint16_t) {
+  return reinterpret_cast<std::uintptr_t>(first_block);
+}
 
-void *id_to_ptr(std::uint64_t handle, std::uint32_t *status, std::uint16_t) {
+[[gnu::weak]] void *id_to_ptr(std::uint64_t handle, std::uint32_t *status, std::uint16_t) {
   if (status != nullptr) *status = 0;
   return reinterpret_cast<void *>(static_cast<std::uintptr_t>(handle));
 }
 
-void id_delete(std::uint64_t, std::uint16_t) {}
+[[gnu::weak]] void id_delete(std::uint64_t, std::uint16_t) {}

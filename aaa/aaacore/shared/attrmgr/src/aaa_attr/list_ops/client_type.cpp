@@ -1,4 +1,4 @@
-// Stamping attributes with the producer client type, and building discriminators.
+// Stamping attributes with the producer client type.
 #include <attrmgr/aaa_attr.h>
 
 #include "aaa_attr/cursor/pooled_cursor.h"
@@ -28,11 +28,3 @@ aaa_attr_cerrno aaa_attr_list_set_producer_client_type(aaa_attr_list_handle list
 aaa_attr_cerrno aaa_attr_list_init_producer_client_type(aaa_attr_list_handle list, std::uint32_t client_type) {
   return stamp(list, client_type, true);
 }
-
-void aaa_attr_discrim_pack(std::uint8_t *discriminator, std::uint8_t service, std::uint8_t protocol) {
-  if (discriminator == nullptr) return;
-  discriminator[0] = service;
-  discriminator[1] = protocol;
-}
-
-void aaa_attr_discrim_init(std::uint8_t *discriminator) { aaa_attr_discrim_pack(discriminator, 0, 0); }

@@ -22,23 +22,18 @@ using namespace attrmgr;
 
 enum class Write { kNot, kAppend, kReplace };
 
-// How a combination takes over an attribute of the given type.
-struct TakeOver {
-  Write (*write)(std::uint32_t type, std::uint32_t argument);
-  bool keep_client_type;
-  std::uint32_t argument = 0;  // for write
-};
-
-Write append_all(std::uint32_t, std::uint32_t) { return Write::kAppend; }
-Write replace_all(std::uint32_t, std::uint32_t) { return Write::kReplace; }
-Write append_type(std::uint32_t type, std::uint32_t wanted) { return type == wanted ? Write::kAppend : Write::kNot; }
+// What a combination does with a source record of a type, and whether it keeps the record's producer client type.
+Write append_all(std::uint32_t) { return Write::kAppend; }
+Write replace_all(std::uint32_t) { return Write::kReplace; }
 
 // QoS policies accumulate, everything else replaces.
-Write double_dip(std::uint32_t type, std::uint32_t) {
+Write double_dip(std::uint32_t type) {
   constexpr std::uint32_t kQosPolicyIn = 277;
   constexpr std::uint32_t kQosPolicyOut = 278;
   return type == kQosPolicyIn || type == kQosPolicyOut ? Write::kAppend : Write::kReplace;
 }
+
+enum class ClientType { kKeep, kDrop };
 
 aaa_attr_cerrno write_attribute(aaa_attr_list_handle destination, const NewAttribute &attribute, Write write) {
   return write == Write::kAppend ? add_attribute(destination, attribute)
@@ -46,10 +41,10 @@ aaa_attr_cerrno write_attribute(aaa_attr_list_handle destination, const NewAttri
 }
 
 // The step under every combination. A sub-list that was copied in vain is released.
-aaa_attr_cerrno take_over(aaa_attr_list_handle destination, RecordView record, Write write, bool keep_client_type,
+aaa_attr_cerrno take_over(aaa_attr_list_handle destination, RecordView record, Write write, ClientType client_type,
                           const void *owner) {
   NewAttribute attribute = attribute_of(record);
-  if (!keep_client_type) attribute.client_type = 0;
+  if (client_type == ClientType::kDrop) attribute.client_type = 0;
   if (format_of(attribute.type) != AAA_ATTR_FMT_GROUPED) return write_attribute(destination, attribute, write);
 
   aaa_attr_list_handle sub_copy;
@@ -60,16 +55,17 @@ aaa_attr_cerrno take_over(aaa_attr_list_handle destination, RecordView record, W
   return code;
 }
 
-aaa_attr_cerrno take_over_all(aaa_attr_list_handle destination, aaa_attr_list_handle source, const TakeOver &how,
-                              const void *owner) {
+template <class WriteFor>
+aaa_attr_cerrno take_over_all(aaa_attr_list_handle destination, aaa_attr_list_handle source, WriteFor write_for,
+                              ClientType client_type, const void *owner) {
   BlockView from;
   if (destination == 0 || source == 0) return AAA_ATTR_ERR_BAD_ARG;
   if (const aaa_attr_cerrno code = resolve(source, &from)) return code;
   if (destination == source) return AAA_ATTR_ERR_BAD_ARG;
   for (const RecordView record : Attributes(from)) {
-    const Write write = how.write(record.type(), how.argument);
+    const Write write = write_for(record.type());
     if (write == Write::kNot) continue;
-    if (const auto code = take_over(destination, record, write, how.keep_client_type, owner)) return code;
+    if (const aaa_attr_cerrno code = take_over(destination, record, write, client_type, owner)) return code;
   }
   return 0;
 }
@@ -86,31 +82,32 @@ aaa_attr_cerrno remove_replaced(aaa_attr_list_handle destination, aaa_attr_list_
 }  // namespace
 
 aaa_attr_cerrno aaa_attr_list_append_list(aaa_attr_list_handle destination, aaa_attr_list_handle source) {
-  return take_over_all(destination, source, {append_all, true}, ATTRMGR_CALLER);
+  return take_over_all(destination, source, append_all, ClientType::kKeep, ATTRMGR_CALLER);
 }
 
 aaa_attr_cerrno aaa_attr_list_merge_with_replace(aaa_attr_list_handle destination, aaa_attr_list_handle source) {
-  return take_over_all(destination, source, {replace_all, true}, ATTRMGR_CALLER);
+  return take_over_all(destination, source, replace_all, ClientType::kKeep, ATTRMGR_CALLER);
 }
 
 aaa_attr_cerrno aaa_attr_list_copy_by_type(aaa_attr_list_handle source, aaa_attr_list_handle destination,
                                            std::uint32_t type) {
-  return take_over_all(destination, source, {append_type, false, type}, ATTRMGR_CALLER);
+  const auto of_that_type = [type](std::uint32_t found) { return found == type ? Write::kAppend : Write::kNot; };
+  return take_over_all(destination, source, of_that_type, ClientType::kDrop, ATTRMGR_CALLER);
 }
 
 aaa_attr_cerrno aaa_attr_list_merge_double_dip(aaa_attr_list_handle destination, aaa_attr_list_handle source) {
-  return take_over_all(destination, source, {double_dip, false}, ATTRMGR_CALLER);
+  return take_over_all(destination, source, double_dip, ClientType::kDrop, ATTRMGR_CALLER);
 }
 
 aaa_attr_cerrno aaa_attr_list_replace_and_add(aaa_attr_list_handle destination, aaa_attr_list_handle source) {
   if (const aaa_attr_cerrno code = remove_replaced(destination, source)) return code;
-  return take_over_all(destination, source, {append_all, false}, ATTRMGR_CALLER);
+  return take_over_all(destination, source, append_all, ClientType::kDrop, ATTRMGR_CALLER);
 }
 
 aaa_attr_cerrno aaa_attr_list_replace_and_add_v1(aaa_attr_list_handle *list1, aaa_attr_list_handle *list2) {
   if (list1 == nullptr || list2 == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   if (const aaa_attr_cerrno code = remove_replaced(*list1, *list2)) return code;
-  if (const auto code = take_over_all(*list2, *list1, {append_all, true}, ATTRMGR_CALLER)) return code;
+  if (const auto code = take_over_all(*list2, *list1, append_all, ClientType::kKeep, ATTRMGR_CALLER)) return code;
   std::swap(*list1, *list2);
   return 0;
 }

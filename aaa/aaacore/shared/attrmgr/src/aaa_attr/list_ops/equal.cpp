@@ -1,14 +1,16 @@
 // Equality of lists as sets: every attribute of each has a match in the other. Lists that hold the same in the same
 // order are equal after one pass over both; only what is behind the first difference is searched for.
 //
-// Sub-lists are compared by content, which is dear. Two of them are compared once, for both directions together; what
-// was found to match is remembered in the sub-list's own head meanwhile (see MatchMarks).
+// Sub-lists are compared by content, which is dear: two of them are compared once, for both directions together.
+// Without that, every level of nesting would double the work.
+#include <bitset>
+#include <cstdlib>
+
 #include <attrmgr/aaa_attr.h>
 #include <attrmgr/aaa_attr_dict.h>
 
 #include "aaa_attr/list_ops/match.h"
 #include "aaa_attr/store/handle_check.h"
-#include "aaa_attr/store/list_blocks.h"
 #include "aaa_attr/walk/list_walk.h"
 
 namespace attrmgr {
@@ -19,15 +21,6 @@ bool lists_equal(aaa_attr_list_handle list1, aaa_attr_list_handle list2);
 bool is_grouped(RecordView record) { return format_of(record.type()) == AAA_ATTR_FMT_GROUPED; }
 
 aaa_attr_list_handle sub_list_of(RecordView record) { return load<aaa_attr_list_handle>(record.value()); }
-
-// Null for a record that holds no list: comparing it is cheap. A Grouped record whose handle names no list is one of
-// those, it equals only the same handle.
-BlockView sub_list_head(RecordView record) {
-  BlockView head;
-  return is_grouped(record) && resolve(sub_list_of(record), &head) == 0 ? head : BlockView();
-}
-
-bool holds_list(RecordView record) { return static_cast<bool>(sub_list_head(record)); }
 
 bool same_meta(RecordView a, RecordView b) {
   if (a.has_meta() != b.has_meta()) return false;
@@ -40,76 +33,99 @@ bool matches(RecordView a, RecordView b) {
   return same_value(a, b) && same_meta(a, b);
 }
 
-// Remembers which Grouped records of a list have found a match. The mark takes the place of the tail hint in the head
-// of the record's sub-list, which nobody looks at meanwhile, and the hint is put back in the end.
-class MatchMarks {
- public:
-  explicit MatchMarks(BlockView list) : list_(list) {}
-  ~MatchMarks() {
-    for (const RecordView record : Attributes(list_)) put_hint_back(record);
-  }
-  MatchMarks(const MatchMarks &) = delete;
-  MatchMarks &operator=(const MatchMarks &) = delete;
-
-  static void mark(RecordView record) {
-    if (BlockView head = sub_list_head(record)) head.set_reserved(kMark);
-  }
-  static bool marked(RecordView record) {
-    const BlockView head = sub_list_head(record);
-    return head && head.reserved() == kMark;
-  }
-
- private:
-  static constexpr std::int32_t kMark = kNeverATailHint;
-
-  static void put_hint_back(RecordView record) {
-    BlockView head = sub_list_head(record);
-    if (!head || head.reserved() != kMark) return;
-    head.set_reserved(0);
-    set_tail(head, last_block(head));
-  }
-
-  BlockView list_;
-};
-
 using Position = Attributes::Iterator;  // at a null record behind the last
 
-bool has_plain_match(RecordView wanted, BlockView list) {
+bool has_match(RecordView wanted, BlockView list) {
   for (const RecordView record : Attributes(list))
     if (matches(wanted, record)) return true;
   return false;
 }
 
-// Behind `from`, every record that holds no list has a match in the list.
-bool plain_records_match(Position from, BlockView list) {
+// From the position on, every record, but the Grouped ones where they are looked at elsewhere, has a match in the list.
+bool all_have_match(Position from, BlockView list, bool grouped_too) {
   for (; *from; ++from)
-    if (!holds_list(*from) && !has_plain_match(*from, list)) return false;
+    if ((grouped_too || !is_grouped(*from)) && !has_match(*from, list)) return false;
   return true;
 }
 
-// Every record that holds a list, in either list, has a match in the other. Records before the first difference, at
-// `from1` and `from2`, match already; those two do not match each other.
-bool sub_lists_match(BlockView list1, BlockView list2, Position from1, Position from2) {
-  const MatchMarks marks(list2);
-  for (Position at(list2); *at && *at != *from2; ++at)
-    if (holds_list(*at)) MatchMarks::mark(*at);
-
-  bool before_difference = true;
-  for (const RecordView own : Attributes(list1)) {
-    if (own == *from1) before_difference = false;
-    if (!holds_list(own)) continue;
-    bool matched = before_difference;
-    for (const RecordView other : Attributes(list2)) {
-      if (other.type() != own.type() || (matched && MatchMarks::marked(other))) continue;
-      if (own == *from1 && other == *from2) continue;
-      if (!matches(own, other)) continue;
-      matched = true;
-      MatchMarks::mark(other);
-    }
-    if (!matched) return false;
+// A mark for each Grouped record of a list, by its number: it has found a match. Lists with very many of them need
+// memory for it, and there may be none.
+class Marks {
+ public:
+  explicit Marks(std::size_t count) {
+    if (count > kOnStack) more_ = static_cast<bool *>(std::calloc(count, sizeof(bool)));
+    available_ = count <= kOnStack || more_ != nullptr;
   }
-  for (; *from2; ++from2)
-    if (holds_list(*from2) && !MatchMarks::marked(*from2)) return false;
+  ~Marks() { std::free(more_); }
+  Marks(const Marks &) = delete;
+  Marks &operator=(const Marks &) = delete;
+
+  bool available() const { return available_; }
+  bool marked(std::size_t number) const { return more_ != nullptr ? more_[number] : few_[number]; }
+  void mark(std::size_t number) {
+    if (more_ != nullptr) {
+      more_[number] = true;
+    } else {
+      few_[number] = true;
+    }
+  }
+
+ private:
+  static constexpr std::size_t kOnStack = 512;
+
+  std::bitset<kOnStack> few_;
+  bool *more_ = nullptr;
+  bool available_;
+};
+
+std::size_t count_grouped(BlockView list) {
+  std::size_t grouped = 0;
+  for (const RecordView record : Attributes(list)) grouped += is_grouped(record);
+  return grouped;
+}
+
+// Two lists that agree up to the positions `at1` and `at2` and differ there.
+struct Difference {
+  BlockView list1;
+  BlockView list2;
+  Position at1;
+  Position at2;
+};
+
+// Looks for matches of one Grouped record of the first list. `agreed`: it has one, and only records of the second list
+// that have none yet are of interest. False when it has none.
+bool match_grouped(RecordView own, bool agreed, const Difference &difference, Marks &marks) {
+  bool matched = agreed;
+  std::size_t number = 0;
+  for (const RecordView other : Attributes(difference.list2)) {
+    if (!is_grouped(other)) continue;
+    const std::size_t current = number++;
+    if (matched && marks.marked(current)) continue;
+    if (own == *difference.at1 && other == *difference.at2) continue;  // known to differ
+    if (!matches(own, other)) continue;
+    matched = true;
+    marks.mark(current);
+  }
+  return matched;
+}
+
+// Every Grouped record of either list has a match in the other.
+bool grouped_match(const Difference &difference) {
+  const std::size_t num_grouped = count_grouped(difference.list2);
+  Marks marks(num_grouped);
+  if (!marks.available())
+    return all_have_match(difference.at1, difference.list2, true) &&
+           all_have_match(difference.at2, difference.list1, true);
+  std::size_t number = 0;
+  for (Position at(difference.list2); *at && *at != *difference.at2; ++at)
+    if (is_grouped(*at)) marks.mark(number++);
+  bool agreed = true;
+  for (const RecordView own : Attributes(difference.list1)) {
+    if (own == *difference.at1) agreed = false;
+    if (is_grouped(own) && !match_grouped(own, agreed, difference, marks)) return false;
+  }
+  for (number = 0; number < num_grouped; ++number)
+    if (!marks.marked(number)) return false;
   return true;
 }
 
@@ -127,7 +143,8 @@ bool lists_equal(aaa_attr_list_handle handle1, aaa_attr_list_handle handle2) {
     ++at2;
   }
   if (!*at1 && !*at2) return true;
-  return plain_records_match(at1, list2) && plain_records_match(at2, list1) && sub_lists_match(list1, list2, at1, at2);
+  return all_have_match(at1, list2, false) && all_have_match(at2, list1, false) &&
+         grouped_match({list1, list2, at1, at2});
 }
 
 }  // namespace

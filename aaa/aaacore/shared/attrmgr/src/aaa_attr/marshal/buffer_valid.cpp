@@ -1,4 +1,4 @@
-// Telling a flat buffer that may be read in place from one that may not, and taking addresses out of it.
+// Telling what a flat buffer is: fit to be read in place or not, of the foreign layout; and taking addresses out of it.
 #include <cstring>
 
 #include <attrmgr/aaa_attr_dict.h>
@@ -41,4 +41,10 @@ aaa_attr_cerrno aaa_attr_buffer_scrub(void *buffer, std::uint32_t length) {
   FlatReader<HostForm> reader(static_cast<std::byte *>(buffer) + 1, length - 1, FlatRules::kValid);
   while (reader.next()) scrub_block(reader.block());
   return 0;
+}
+
+int aaa_attr_buffer_is_alien(const void *buffer, std::uint32_t length) {
+  const auto *bytes = static_cast<const std::byte *>(buffer);
+  if (bytes == nullptr || length < 1 + kHeaderSize || bytes[0] != std::byte{AAA_MARSHAL_BUFFER}) return 0;
+  return BlockView(const_cast<std::byte *>(bytes + 1)).foreign();
 }

@@ -60,6 +60,7 @@ void pack(BlockView block) {
 aaa_attr_cerrno aaa_attr_list_coalesce(aaa_attr_list_handle list) {
   BlockView head;
   if (const aaa_attr_cerrno code = resolve(list, &head)) return code;
+  if (head.block_count() == 0) return 0;
   BlockView kept = head;
   for (BlockView block = head; block;) {
     const BlockView next = block.next();

@@ -34,9 +34,3 @@ aaa_attr_cerrno aaa_attr_buffer_to_list(const void *buffer, std::uint32_t length
   *list = code == 0 ? made.handle : 0;
   return code;
 }
-
-int aaa_attr_buffer_is_alien(const void *buffer, std::uint32_t length) {
-  const auto *bytes = static_cast<const std::byte *>(buffer);
-  if (bytes == nullptr || length < 1 + kHeaderSize || bytes[0] != std::byte{AAA_MARSHAL_BUFFER}) return 0;
-  return BlockView(const_cast<std::byte *>(bytes + 1)).foreign();
-}

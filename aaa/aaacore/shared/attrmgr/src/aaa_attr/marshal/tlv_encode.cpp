@@ -93,10 +93,7 @@ aaa_attr_cerrno aaa_attr_list_tlv_buffer_len(aaa_attr_list_handle list, std::uin
   if (size == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   std::uint64_t total = 0;
   if (const aaa_attr_cerrno code = measure(list, &total)) return code;
-  if (total > kRecordsMax) {
-    *size = 0;
-    return AAA_ATTR_ERR_BAD_FORMAT;
-  }
+  if (total > kRecordsMax) return AAA_ATTR_ERR_BAD_FORMAT;
   *size = static_cast<std::uint32_t>(total);
   return 0;
 }
@@ -105,7 +102,7 @@ aaa_attr_cerrno aaa_attr_list_tlv_to_buffer(aaa_attr_list_handle list, void *buf
   if (size == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   std::uint32_t records;
   if (const aaa_attr_cerrno code = aaa_attr_list_tlv_buffer_len(list, &records)) {
-    if (code == AAA_ATTR_ERR_BAD_FORMAT) *size = 0;
+    if (code == AAA_ATTR_ERR_BAD_FORMAT) *size = 0;  // no buffer can be large enough
     return code;
   }
   const std::uint32_t needed = records + static_cast<std::uint32_t>(kBufferOverhead);

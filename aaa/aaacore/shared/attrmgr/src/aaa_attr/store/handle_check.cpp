@@ -8,20 +8,20 @@
 namespace attrmgr {
 namespace {
 
-// What a handle table says of a handle.
-constexpr std::uint32_t kStatusBad = 1;
+// What a handle table says of a handle: valid, stale, or anything else for one that is bad.
+constexpr std::uint32_t kStatusValid = 0;
 constexpr std::uint32_t kStatusStale = 2;
 
 }  // namespace
 
 aaa_attr_cerrno resolve(aaa_attr_list_handle list, BlockView *head) {
   if (list == 0) return AAA_ATTR_ERR_BAD_LIST;
-  std::uint32_t status = 0;
+  std::uint32_t status = kStatusValid;
   const BlockView block(static_cast<std::byte *>(id_to_ptr(list, &status, handle_table())));
   if (!block || status == kStatusStale) return AAA_ATTR_ERR_STALE_HANDLE;
   const std::uint16_t magic = block.magic();
   if (magic == kFreedMagic) return AAA_ATTR_ERR_STALE_HANDLE;
-  if (status == kStatusBad || magic != kBlockMagic) return AAA_ATTR_ERR_BAD_LIST;
+  if (status != kStatusValid || magic != kBlockMagic) return AAA_ATTR_ERR_BAD_LIST;
   *head = block;
   return 0;
 }

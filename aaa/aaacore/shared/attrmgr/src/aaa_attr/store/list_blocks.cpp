@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <limits>
 
 #include <attrmgr/aaa_platform.h>
 
@@ -15,7 +14,10 @@ namespace attrmgr {
 namespace {
 
 // The tail hint counts in units of what malloc aligns to.
-constexpr std::ptrdiff_t kTailUnit = 16;
+constexpr std::intptr_t kTailUnit = 16;
+
+// The blocks are separate allocations: distances between them are those of addresses, not of pointers.
+std::intptr_t address_of(BlockView block) { return reinterpret_cast<std::intptr_t>(block.bytes()); }
 
 void write_header(BlockView block, std::size_t size, std::uint8_t flags) {
   block.set_magic(kBlockMagic);
@@ -73,17 +75,16 @@ BlockView aaa_attr_list_add_block(BlockView head, BlockView last, std::size_t si
 }
 
 BlockView last_block(BlockView head) {
-  BlockView last(head.bytes() + head.reserved() * kTailUnit);
+  if (!head.next()) return head;  // whatever the hint says
+  BlockView last(reinterpret_cast<std::byte *>(address_of(head) + head.reserved() * kTailUnit));
   while (const BlockView next = last.next()) last = next;
   return last;
 }
 
 void set_tail(BlockView head, BlockView last) {
-  // Addresses, not pointers: the blocks are separate allocations.
-  const auto distance = reinterpret_cast<std::intptr_t>(last.bytes()) - reinterpret_cast<std::intptr_t>(head.bytes());
+  const std::intptr_t distance = address_of(last) - address_of(head);
   const std::intptr_t units = distance / kTailUnit;
-  const bool fits =
-      distance % kTailUnit == 0 && units > kNeverATailHint && units <= std::numeric_limits<std::int32_t>::max();
+  const bool fits = distance % kTailUnit == 0 && units == static_cast<std::int32_t>(units);
   head.set_reserved(fits ? static_cast<std::int32_t>(units) : 0);
 }
 

@@ -1,9 +1,6 @@
 // The blocks of a list: making a head, chaining a block, finding the last one, going over all.
 #pragma once
 
-#include <cstdint>
-#include <limits>
-
 #include <attrmgr/aaa_attr_types.h>
 
 #include "aaa_attr/store/views.h"
@@ -30,9 +27,6 @@ BlockView last_block(BlockView head);
 // The head remembers where the last block is, as a hint in its reserved word. Everything that changes a chain calls
 // this.
 void set_tail(BlockView head, BlockView last);
-
-// What the reserved word of a head never holds as a hint.
-inline constexpr std::int32_t kNeverATailHint = std::numeric_limits<std::int32_t>::min();
 
 // What a range-based for over a walk ends with.
 struct WalkEnd {};

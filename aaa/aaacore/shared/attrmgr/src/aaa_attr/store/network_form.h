@@ -33,7 +33,7 @@ constexpr T from_top_down(T host, const unsigned (&widths)[N]) {
   return static_cast<T>(network);
 }
 
-// The way back: the same rule with the widths in reverse order.
+// The fields, and in reverse order those of the way back.
 inline constexpr unsigned kBlockFlagWidths[] = {1, 1, 1,
                                                 1, 2, 2};  // head, last, holds grouped, reserved, layout, spare
 inline constexpr unsigned kBlockFlagWidthsBack[] = {2, 2, 1, 1, 1, 1};

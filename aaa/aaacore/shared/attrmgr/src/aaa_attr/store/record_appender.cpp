@@ -88,7 +88,8 @@ aaa_attr_cerrno add_attribute(aaa_attr_list_handle list, const NewAttribute &att
   BlockView head;
   if (const aaa_attr_cerrno code = check_presence(attribute)) return code;
   if (const aaa_attr_cerrno code = resolve(list, &head)) return code;
-  return add_attribute(head, attribute);
+  if (const aaa_attr_cerrno code = check_length(attribute)) return code;
+  return append_record(head, attribute);
 }
 
 }  // namespace attrmgr

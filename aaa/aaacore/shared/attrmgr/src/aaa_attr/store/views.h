@@ -1,5 +1,6 @@
 // Views of a packed block, record and meta: one pointer each, no ownership, passed by value. The only code that loads
-// and stores their fields, at any alignment. A view does not check bounds; what makes one does (walk.h, flat_reader.h).
+// and stores their fields, at any alignment. A view does not check bounds; what makes one does (record_scan.h,
+// flat_reader.h).
 //
 // A view is a template over the form its fields are in: HostForm in lists and in buffers as they are made, NetworkForm
 // (network_form.h) in translated buffers.
