@@ -1,4 +1,4 @@
-// Look-ups over the type table and the format names, and the LI set.
+// Look-ups over types, formats and values at their edges, and the LI set.
 #include <gtest/gtest.h>
 
 #include <map>
@@ -7,7 +7,7 @@
 
 namespace {
 
-TEST(Lookup, EveryNameLeadsBackToItsType) {
+TEST(Lookup, TypesAndNames) {
   const std::map<std::uint32_t, std::uint32_t> lower_of_two = {{455, 453}, {456, 454}, {475, 474}};
   for (std::uint32_t type = 0; type < AAA_ATTR_TYPE_COUNT; ++type) {
     const std::string name = aaa_attr_get_name_from_type(type);
@@ -15,21 +15,12 @@ TEST(Lookup, EveryNameLeadsBackToItsType) {
     EXPECT_EQ(found, lower_of_two.contains(type) ? lower_of_two.at(type) : type) << name;
     EXPECT_EQ(aaa_attr_get_type_from_name((name + " ").c_str()), 0u) << name << " and a blank";
   }
-}
-
-TEST(Lookup, NamesThatAreNone) {
-  EXPECT_EQ(aaa_attr_get_type_from_name("Acct-Status-Type"), 3u);
-  for (const char *name : {"acct-status-type", "ACL", "", "Unknown AAA Attribute"})
-    EXPECT_EQ(aaa_attr_get_type_from_name(name), 0u) << name;
-  EXPECT_EQ(aaa_attr_get_type_from_name(nullptr), 0u);
-}
-
-TEST(Lookup, NumbersThatAreNoType) {
-  for (const std::uint32_t type : {623u, 0x10003u, 0x80000000u, UINT32_MAX}) {
+  for (const char *name : {"acct-status-type", "ACL", "", "Unknown AAA Attribute", static_cast<const char *>(nullptr)})
+    EXPECT_EQ(aaa_attr_get_type_from_name(name), 0u) << (name ? name : "null");
+  for (const std::uint32_t type : {623u, 0x10003u, UINT32_MAX}) {
     EXPECT_STREQ(aaa_attr_get_name_from_type(type), "Unknown AAA Attribute") << type;
     EXPECT_EQ(aaa_attr_get_format_from_type(type), 0u) << type;
   }
-  EXPECT_STREQ(aaa_attr_get_name_from_type(622), "nd-ra-initial");
 }
 
 TEST(Lookup, FormatNames) {
@@ -43,50 +34,26 @@ TEST(Lookup, FormatNames) {
   EXPECT_STREQ(aaa_attr_get_format_string(UINT32_MAX), "<unknown>");
 }
 
-// Leaves the debug-LI flag clear for whatever runs next.
-class LiSet : public testing::Test {
- protected:
-  ~LiSet() override { aaa_attr_set_debug_li(0); }
-};
-
-TEST_F(LiSet, TypesWhateverTheFlag) {
-  for (const std::uint32_t flag : {0u, 1u}) {
-    aaa_attr_set_debug_li(flag);
-    for (std::uint32_t type = 0; type < 1000; ++type)
-      EXPECT_EQ(aaa_attr_is_attr_type_li(type), type >= 288 && type <= 293) << type << ", flag " << flag;
-    EXPECT_EQ(aaa_attr_is_attr_type_li(0x10000 + 288), 0);
-  }
+TEST(Lookup, Values) {
+  for (const auto &[type, value] : {std::pair(0u, 0u), {2, 0}, {96, 47}, {96, UINT32_MAX}, {623, 0}, {0x10003, 7}})
+    EXPECT_EQ(aaa_attr_get_enum_name_from_type(type, value), nullptr) << type;
+  // The interface look-up ends before its table does.
+  for (std::uint32_t value = 0; value < value_interface_type.count + 2; ++value)
+    EXPECT_STREQ(aaa_attr_get_interface_from_type(value), value <= 43 ? name_interface_type[value] : "unknown")
+        << value;
 }
 
-TEST_F(LiSet, TextsWhileTheFlagIsClear) {
-  const struct {
-    const char *why, *text;
-    int li;
-  } rows[] = {
-      {"name and value", "intercept-id=4711", 1},
-      {"no value yet", "md-port=", 1},
-      {"the first of the set", "md-ip-addr=10.0.0.1", 1},
-      {"a longer name that begins like another", "md-ipv6-addr=::1", 1},
-      {"a second sign belongs to the value", "md-dscp==", 1},
-      {"a name alone", "intercept-id", 0},
-      {"the name goes on", "intercept-id2=1", 0},
-      {"a blank before the sign", "li-action =1", 0},
-      {"not at the beginning", " li-action=1", 0},
-      {"another case", "LI-ACTION=1", 0},
-      {"another attribute", "addr=10.0.0.1", 0},
-      {"empty", "", 0},
-      {"null", nullptr, 0},
-  };
-  for (const auto &row : rows) {
-    SCOPED_TRACE(row.why);
-    EXPECT_EQ(aaa_attr_is_li_attr(row.text), row.li);
-    // Any value but 0 counts as set.
-    for (const std::uint32_t flag : {1u, 2u, 0x100u, 0x80000000u}) {
-      aaa_attr_set_debug_li(flag);
-      EXPECT_EQ(aaa_attr_is_li_attr(row.text), 0) << flag;
-    }
-    aaa_attr_set_debug_li(0);
+TEST(LiSet, TypesWhateverTheFlagTextsWhileItIsClear) {
+  for (const std::uint32_t flag : {0x80000000u, 1u, 0u}) {
+    aaa_attr_set_debug_li(flag);
+    for (const char *text : {"intercept-id=4711", "md-ip-addr=", "md-ipv6-addr=::1", "md-dscp=="})
+      EXPECT_EQ(aaa_attr_is_li_attr(text), flag == 0) << text;
+    for (const char *text : {"intercept-id", "intercept-id2=1", " li-action=1", "LI-ACTION=1", "addr=10.0.0.1", ""})
+      EXPECT_EQ(aaa_attr_is_li_attr(text), 0) << text;
+    for (std::uint32_t type = 0; type < 0x10000 + 300; ++type)
+      EXPECT_EQ(aaa_attr_is_attr_type_li(type), type >= 288 && type <= 293) << type << ", flag " << flag;
   }
+  EXPECT_EQ(aaa_attr_is_li_attr(nullptr), 0);
 }
 
 }  // namespace

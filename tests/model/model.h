@@ -1,28 +1,30 @@
-// An attribute list without its blocks: a vector of records, and every operation written the way its meaning reads.
-// What the library does fast this does plainly; model_test.cpp holds the two against each other.
+// An attribute list without its blocks: a vector of records, and the operations written the way their meaning reads.
+// What the library does fast this does plainly; operations.h holds the two against each other.
 #pragma once
 
 #include <algorithm>
 #include <optional>
-#include <set>
 
 #include "support/lists.h"
 
 namespace model {
 
 using Code = aaa_attr_cerrno;
+using Handle = aaa_attr_list_handle;
 using Meta = std::optional<aaa_attr_meta>;
 
 struct List;
 struct Attr {
   std::uint32_t type = 0;
-  Bytes value;  // as stored: a String with its NUL; for Grouped 8 bytes that no other sub-list has, like a handle
+  Bytes value;  // as the caller gives it; of a Grouped record that holds a list: nothing
   Meta meta;
   std::uint32_t client_type = 0;
   std::vector<List> sub;  // of a live Grouped record: the one list that it owns
   bool deleted = false;
 };
 struct List {
+  operator Handle() const { return handle; }
+  Handle handle = 0;  // the library's; 0 of a sub-list that an operation has copied, until it is seen
   std::vector<Attr> records;
 };
 
@@ -35,10 +37,10 @@ inline constexpr Type kTypes[] = {{type::kUlong, AAA_ATTR_FMT_ULONG, 4},
                                   {type::kString, AAA_ATTR_FMT_STRING},
                                   {type::kGrouped, AAA_ATTR_FMT_GROUPED, 8},
                                   {277, AAA_ATTR_FMT_STRING},
-                                  {type::kOtherGrouped, AAA_ATTR_FMT_GROUPED, 8},
-                                  {type::kBinary, AAA_ATTR_FMT_BINARY},
-                                  {278, AAA_ATTR_FMT_STRING},
                                   {198, AAA_ATTR_FMT_STRING},
+                                  {type::kOtherGrouped, AAA_ATTR_FMT_GROUPED, 8},
+                                  {278, AAA_ATTR_FMT_STRING},
+                                  {type::kBinary, AAA_ATTR_FMT_BINARY},
                                   {type::kEnum, AAA_ATTR_FMT_ENUM, 4},
                                   {type::kIpv4, AAA_ATTR_FMT_IPV4, 4},
                                   {type::kIpv6, AAA_ATTR_FMT_IPV6, 16},
@@ -53,79 +55,72 @@ inline const Type &row(const Attr &a) {
   return *std::find_if(std::begin(kTypes), std::end(kTypes), [&](const Type &t) { return t.number == a.type; });
 }
 inline bool grouped(const Attr &a) { return row(a).format == AAA_ATTR_FMT_GROUPED; }
-inline int nul(const Attr &a) { return row(a).format == AAA_ATTR_FMT_STRING ? 1 : 0; }
-inline Bytes reported(const Attr &a) { return Bytes(a.value.begin(), a.value.end() - nul(a)); }
-
-// Visits live records, with a filter only those whose meta matches it; type 0 is the end.
-struct Cursor {
-  Attr *next() {
-    while (at < list.records.size()) {
-      Attr &a = list.records[at++];
-      const bool passes =
-          (!service && !protocol) || (a.meta && a.meta->service == service && a.meta->protocol == protocol);
-      if (!a.deleted && passes) return a.type == 0 ? nullptr : &a;
-    }
-    return nullptr;
-  }
-  List &list;
-  int service = 0, protocol = 0;
-  std::size_t at = 0;
-};
-inline Attr *first(List &list, std::uint32_t type) {
-  Cursor c{list};
-  Attr *a = c.next();
-  while (a && a->type != type) a = c.next();
-  return a;
-}
-
-template <typename Handle>
-Bytes handle_bytes(Handle handle) {
+inline Bytes handle_bytes(Handle handle) {
   const auto *bytes = reinterpret_cast<const std::uint8_t *>(&handle);
   return Bytes(bytes, bytes + sizeof handle);
 }
-inline Bytes fresh_handle() {
-  static std::uint64_t last = 0;
-  return handle_bytes(++last);
+inline Bytes value_of(const Attr &a) { return a.sub.empty() ? a.value : handle_bytes(a.sub[0]); }
+inline bool same_value(const Attr &a, const Attr &b) { return a.type == b.type && value_of(a) == value_of(b); }
+
+// What a walk visits: live records, with a filter only those whose meta matches it; type 0 is the end.
+inline std::vector<Attr *> live(List &list, const aaa_attr_meta &filter = {}) {
+  std::vector<Attr *> found;
+  for (Attr &a : list.records) {
+    const bool named = a.meta && a.meta->service == filter.service && a.meta->protocol == filter.protocol;
+    if (a.deleted || ((filter.service || filter.protocol) && !named)) continue;
+    if (a.type == 0) break;
+    found.push_back(&a);
+  }
+  return found;
+}
+template <typename Predicate>
+std::vector<Attr *> all(List &list, Predicate predicate) {
+  std::vector<Attr *> found = live(list);
+  std::erase_if(found, [&](Attr *a) { return !predicate(*a); });
+  return found;
+}
+inline std::vector<Attr *> of_type(List &list, std::uint32_t type) {
+  return all(list, [type](const Attr &a) { return a.type == type; });
 }
 
-// ---- Adding: the value of a given attribute is the caller's, a String without its NUL ----
+// ---- Adding ----
 
 inline Code refusal(const Attr &given) {
   if (given.type >= AAA_ATTR_TYPE_COUNT) return AAA_ATTR_ERR_NOT_FOUND;
-  const std::size_t length = given.value.size();
-  const std::uint32_t fixed = row(given).length, other = row(given).other_length;
-  const bool suits = fixed ? length == fixed || (other && length == other) : length > 0;
-  const std::size_t block = 24 + 8 + (given.meta ? 8 : 0) + length + (nul(given) ? 1 : 0);
-  return suits && block <= 65535 ? 0 : AAA_ATTR_ERR_BAD_ARG;
+  const Type &t = row(given);
+  const std::size_t length = value_of(given).size(), nul = t.format == AAA_ATTR_FMT_STRING ? 1 : 0;
+  const bool suits = t.length ? length == t.length || (t.other_length && length == t.other_length) : length > 0;
+  return suits && 24 + 8 + (given.meta ? 8 : 0) + length + nul <= 65535 ? 0 : AAA_ATTR_ERR_BAD_ARG;
 }
 inline Code add(List &list, Attr given) {
   if (const Code code = refusal(given)) return code;
-  if (nul(given)) given.value.push_back(0);
   given.client_type &= 0x7F;
   list.records.push_back(std::move(given));
   return 0;
 }
-inline void erase(Attr &a) {
-  a.deleted = true;
+// The sub-list is freed, or left to the client.
+using Left = std::vector<Handle>;
+inline void erase(Attr &a, Left *left = nullptr) {
+  if (left) left->insert(left->end(), a.sub.begin(), a.sub.end());
   a.sub.clear();
+  a.deleted = true;
 }
-inline bool same_meta(const Meta &a, const Meta &b) {
+inline bool replaces(const Meta &a, const Meta &b) {
   if (!a || !b) return !a && !b;
   return a->service == b->service && a->protocol == b->protocol && a->tag == b->tag && a->flags % 2 == b->flags % 2;
 }
 inline Code add_or_replace(List &list, Attr given, bool beside_other_meta) {
   if (const Code code = refusal(given)) return code;
-  Attr *old = first(list, given.type);
-  if (!old) return add(list, std::move(given));
-  const bool same = same_meta(old->meta, given.meta);
-  if (!same && beside_other_meta) return add(list, std::move(given));
-  if (same && reported(*old).size() == given.value.size()) {
-    std::copy(given.value.begin(), given.value.end(), old->value.begin());
-    old->meta = given.meta;
-    old->sub = std::move(given.sub);
+  const std::vector<Attr *> old = of_type(list, given.type);
+  if (old.empty()) return add(list, std::move(given));
+  Attr &first = *old[0];
+  const bool same = replaces(first.meta, given.meta);
+  if (same && value_of(first).size() == value_of(given).size()) {
+    given.client_type = first.client_type;
+    first = std::move(given);
     return 0;
   }
-  erase(*old);
+  if (same || !beside_other_meta) erase(first);
   return add(list, std::move(given));
 }
 inline Code replace_v1(List &list, Attr given) {
@@ -139,159 +134,104 @@ inline Code double_dip(List &list, Attr given) {
 
 // ---- Removing ----
 
-inline Code remove(List &list, std::uint32_t type) {
-  for (Cursor c{list}; Attr *a = c.next();)
-    if (a->type == type) erase(*a);
+template <typename Predicate>
+Code remove_if(List &list, Left *left, Predicate predicate) {
+  for (Attr *a : all(list, predicate)) erase(*a, left);
   return 0;
 }
-inline Code remove_on_match(List &list, std::uint32_t type, const Bytes &value) {
-  for (Cursor c{list}; Attr *a = c.next();)
-    if (a->type == type && reported(*a) == value) erase(*a);
-  return 0;
+inline Code remove_types_of(List &list1, List &list2) {
+  return remove_if(list1, nullptr, [&](const Attr &a) { return !of_type(list2, a.type).empty(); });
 }
-inline Code remove_list(List &list1, List &list2) {
-  for (Cursor c{list2}; Attr *a = c.next();) remove(list1, a->type);
-  return 0;
+inline Code remove_values_of(List &list1, List &list2, Left *left) {
+  return remove_if(list1, left,
+                   [&](const Attr &a) { return !all(list2, [&](const Attr &b) { return same_value(a, b); }).empty(); });
 }
-inline Code remove_list_on_match(List &list1, List &list2) {
-  for (Cursor c{list2}; Attr *a = c.next();) remove_on_match(list1, a->type, reported(*a));
-  return 0;
-}
-inline Code remove_common_attrs(List &list1, List &list2) {
-  for (Cursor c{list1}; Attr *a = c.next();) {
-    Attr *b = first(list2, a->type);
-    if (!b) continue;
-    if (reported(*a) == reported(*b)) erase(*b);
-    erase(*a);
+inline Code remove_common(List &list1, List &list2, Left *left) {
+  for (Attr *a : live(list1)) {
+    const std::vector<Attr *> others = of_type(list2, a->type);
+    if (others.empty()) continue;
+    if (same_value(*a, *others[0])) erase(*others[0], left);
+    erase(*a, left);
   }
   return 0;
 }
 
-// ---- Combining ----
+// ---- Copying, combining ----
 
 inline List copy(const List &source) {
-  List result = source;
+  List result{0, source.records};
   for (Attr &a : result.records)
-    if (!a.deleted && grouped(a)) a.value = fresh_handle(), a.sub[0] = copy(a.sub[0]);
+    for (List &sub : a.sub) sub = copy(sub);
   return result;
 }
-// The attribute as it is given to another list.
-inline Attr given_from(const Attr &a, std::uint32_t client_type) {
-  if (!grouped(a)) return {a.type, reported(a), a.meta, client_type, {}};
-  return {a.type, fresh_handle(), a.meta, client_type, {copy(a.sub[0])}};
+// What a TLV buffer carries of the list.
+inline List through_tlv(List &list) {
+  List result;
+  for (Attr *a : live(list)) {
+    result.records.push_back({a->type, a->value, a->meta, 0, {}});
+    for (List &sub : a->sub) result.records.back().sub.push_back(through_tlv(sub));
+  }
+  return result;
 }
 using Write = Code (*)(List &, Attr);
 template <Write write, bool keep_client_type>
-Code combine(List &destination, List &source) {
+Code take_over(List &destination, List &source) {
   if (&destination == &source) return AAA_ATTR_ERR_BAD_ARG;
-  for (Cursor c{source}; Attr *a = c.next();)
-    if (const Code code = write(destination, given_from(*a, keep_client_type ? a->client_type : 0))) return code;
+  List given = copy(source);
+  for (Attr *a : live(given)) {
+    if (!keep_client_type) a->client_type = 0;
+    write(destination, *a);
+  }
   return 0;
 }
 inline Code copy_by_type(List &source, List &destination, std::uint32_t type) {
-  if (&destination == &source) return AAA_ATTR_ERR_BAD_ARG;
-  for (Cursor c{source}; Attr *a = c.next();)
-    if (a->type == type) add(destination, given_from(*a, 0));
-  return 0;
+  List wanted = source;
+  remove_if(wanted, nullptr, [type](const Attr &a) { return a.type != type; });
+  return &destination == &source ? AAA_ATTR_ERR_BAD_ARG : take_over<add, false>(destination, wanted);
 }
 inline Code replace_and_add(List &destination, List &source) {
-  if (&destination == &source) return AAA_ATTR_ERR_BAD_ARG;
-  remove_list(destination, source);
-  return combine<add, false>(destination, source);
+  if (&destination != &source) remove_types_of(destination, source);
+  return take_over<add, false>(destination, source);
 }
 inline Code replace_and_add_v1(List &list1, List &list2) {
-  if (&list1 == &list2) return AAA_ATTR_ERR_BAD_ARG;
-  remove_list(list1, list2);
-  combine<add, true>(list2, list1);
-  std::swap(list1, list2);
-  return 0;
+  if (&list1 != &list2) remove_types_of(list1, list2);
+  const Code code = take_over<add, true>(list2, list1);
+  std::swap(list1.records, list2.records);
+  return code;
 }
 inline Code merge_list(List &destination, List &source) {
   if (&destination == &source) return AAA_ATTR_ERR_BAD_ARG;
-  for (Attr &a : source.records) destination.records.push_back(std::move(a));
-  source = {};
+  for (Attr &a : std::exchange(source.records, {})) destination.records.push_back(std::move(a));
   return 0;
 }
 inline Code filter_on_type(List &list, const std::vector<std::uint32_t> &types) {
-  List kept;
-  for (Cursor c{list}; Attr *a = c.next();)
-    if (std::count(types.begin(), types.end(), a->type)) kept.records.push_back(std::move(*a));
-  list = std::move(kept);
+  std::vector<Attr> kept;
+  for (Attr *a : live(list))
+    if (std::count(types.begin(), types.end(), a->type)) kept.push_back(std::move(*a));
+  list.records = std::move(kept);
   return 0;
 }
-
-// ---- Stamping, coalescing ----
-
+inline Code coalesce(List &list) {
+  std::erase_if(list.records, [](const Attr &a) { return a.deleted; });
+  return 0;
+}
 inline Code stamp(List &list, std::uint32_t client_type, bool only_unstamped) {
-  for (Cursor c{list}; Attr *a = c.next();) {
+  for (Attr *a : live(list)) {
     if (client_type < 1 || client_type > 23) return AAA_ATTR_ERR_BAD_ARG;
     if (!only_unstamped || a->client_type < 1 || a->client_type > 23) a->client_type = client_type;
   }
   return 0;
 }
-inline void coalesce(List &list) {
-  std::erase_if(list.records, [](const Attr &a) { return a.deleted; });
+
+// ---- Asking ----
+
+inline bool covers(List &list1, List &list2) {
+  const auto matches = [](Attr &a, Attr &b) {
+    if (a.type != b.type) return false;
+    if (grouped(a)) return covers(a.sub[0], b.sub[0]) && covers(b.sub[0], a.sub[0]);
+    const bool same_meta = a.meta && b.meta ? std::memcmp(&*a.meta, &*b.meta, sizeof *a.meta) == 0 : !a.meta && !b.meta;
+    return a.value == b.value && same_meta;
+  };
+  return all(list1, [&](Attr &a) { return all(list2, [&](Attr &b) { return matches(a, b); }).empty(); }).empty();
 }
-
-// ---- What a list holds ----
-
-// The text that outline() of support/lists.h gives for the library's list.
-inline std::string outline(List &list) {
-  constexpr char kDigits[] = "0123456789abcdef";
-  std::string text;
-  for (Cursor c{list}; Attr *a = c.next();) {
-    text += (text.empty() ? "" : " ") + std::to_string(a->type);
-    if (const Meta &m = a->meta) {
-      text += '[' + std::to_string(m->service);
-      for (const int n : {+m->protocol, +m->tag, +m->flags, +m->client}) text += ',' + std::to_string(n);
-      text += ']';
-    }
-    if (a->client_type) text += '@' + std::to_string(a->client_type);
-    text += '=';
-    if (grouped(*a)) text += '{' + outline(a->sub[0]) + '}';
-    for (const unsigned byte : grouped(*a) ? Bytes() : reported(*a)) (text += kDigits[byte / 16]) += kDigits[byte % 16];
-  }
-  return text;
-}
-
-// The set of the list's attributes, the same for equal lists: no client types, no metas of Grouped attributes.
-inline std::set<std::string> as_set(List &list) {
-  std::set<std::string> attributes;
-  for (Cursor c{list}; Attr *a = c.next();) {
-    List alone{{{a->type, a->value, a->meta, 0, a->sub}}};
-    std::string text = outline(alone);
-    if (grouped(*a)) {
-      text = std::to_string(a->type) + '{';
-      for (const std::string &attribute : as_set(a->sub[0])) text += attribute + ' ';
-      text += '}';
-    }
-    attributes.insert(text);
-  }
-  return attributes;
-}
-
-// What a TLV buffer carries of the list.
-inline List through_tlv(List &list) {
-  List result;
-  for (Cursor c{list}; Attr *a = c.next();) {
-    Attr given = given_from(*a, 0);
-    if (grouped(*a)) given.sub[0] = through_tlv(a->sub[0]);
-    add(result, std::move(given));
-  }
-  return result;
-}
-
-inline bool holds_type_0(const List &list) {
-  return std::any_of(list.records.begin(), list.records.end(), [](const Attr &a) {
-    return !a.deleted && (a.type == 0 || (grouped(a) && holds_type_0(a.sub[0])));
-  });
-}
-
-// Records and kilobytes, sub-lists included.
-inline std::size_t weight(const List &list) {
-  std::size_t sum = 0;
-  for (const Attr &a : list.records) sum += 1 + a.value.size() / 1024 + (a.sub.empty() ? 0 : weight(a.sub[0]));
-  return sum;
-}
-
 }  // namespace model

@@ -1,25 +1,22 @@
-// The bytes of blocks and records, and how a list grows block by block.
-#include "support/changes.h"
+// The bytes of blocks and records, how a list grows block by block, and where it ends.
+#include <gtest/gtest.h>
+#include <pthread.h>
+
+#include "support/blocks.h"
+#include "support/list_text.h"
 
 namespace {
 
 TEST(BlockLayout, RecordsArePackedBehindTheHeader) {
   List list;
-  EXPECT_EQ(Block(list).bytes(), hex(R"(
-    cd ab 01 23              # magic, version, flags: head, last, 24-byte header
-    01 00 00 00 e8 01 18 00  # 1 block, 0 records, 488 free, 24 used
-    00 00 00 00              # reserved
-    00 00 00 00 00 00 00 00  # next
-  )"));
-
   const std::uint32_t number = 0x12345678;
   const aaa_attr_meta meta = {3, 7, 0x0A0B, 0x8001, 0x0C0D};
   EXPECT_EQ(aaa_attr_add_v1(list, type::kUlong, &number, 4, &meta, 5), 0u);
   EXPECT_EQ(aaa_attr_add_v1(list, type::kString, "abc", 3, nullptr, 0x1FF), 0u);
   EXPECT_EQ(aaa_attr_add_v1(list, type::kBinary, "abc", 3, nullptr, 1), 0u);
   EXPECT_EQ(aaa_attr_remove(list, type::kBinary), 0u);
-  const std::uint64_t sub_list = list.group(type::kGrouped);
-  Bytes expected = hex(R"(
+  EXPECT_EQ(aaa_attr_add_existing_group_list(list, 0, type::kGrouped, nullptr), 0u);
+  EXPECT_EQ(Block(list).bytes(), hex(R"(
     cd ab 01 27              # a Grouped record came
     01 00 04 00 ad 01 53 00  # the removed record still counts
     00 00 00 00
@@ -31,49 +28,32 @@ TEST(BlockLayout, RecordsArePackedBehindTheHeader) {
     61 62 63 00
     1e 00 06 00 03 00 00 00  # type 30, client type 1, removed
     61 62 63
-    bc 01 00 00 08 00 00 00  # type 444; the sub-list's handle follows
-  )");
-  const auto *handle = reinterpret_cast<const std::uint8_t *>(&sub_list);
-  expected.insert(expected.end(), handle, handle + sizeof sub_list);
-  EXPECT_EQ(Block(list).bytes(), expected);
+    bc 01 00 00 08 00 00 00  # type 444, no list
+    00 00 00 00 00 00 00 00
+  )"));
+
+  std::uint8_t discriminator[3] = {0, 0, 0xEE};
+  aaa_attr_discrim_pack(discriminator, 3, 250);
+  EXPECT_EQ(Bytes(discriminator, discriminator + 3), hex("03 fa ee"));
 }
 
 TEST(BlockLayout, RecordsFillTheLastBlockAndChainTheNext) {
-  const struct {
-    std::vector<std::uint32_t> lengths;  // of Binary values
-    const char *shape;
-    const char *why;
-  } rows[] = {
+  const std::tuple<std::vector<std::uint32_t>, std::string, std::string> rows[] = {
+      // lengths of Binary values
       {{400, 72}, "23 1 2 512+0", "what needs exactly the free bytes fits"},
       {{479, 1}, "21 2 1 511+1 | 22 1 1 33+479", "one byte short"},
       {{480, 480}, "21 2 1 512+0 | 22 1 1 512+0", "the next record chains a block"},
       {{481}, "21 2 0 24+488 | 22 1 1 513+0", "a byte too long for a usual block"},
-      {{1000}, "21 2 0 24+488 | 22 1 1 1032+0", "a block as large as its record"},
       {{1000, 1}, "21 3 0 24+488 | 20 1 1 1032+0 | 22 1 1 33+479", "the head's free bytes are not used again"},
       {{65503}, "21 2 0 24+488 | 22 1 1 65535+0", "the largest block"},
   };
-  const Bytes value(65535, 0x5A);
-  for (const auto &row : rows) {
-    SCOPED_TRACE(row.why);
-    List list;
-    for (const std::uint32_t length : row.lengths)
+  const Bytes value(65503);
+  for (const auto &[lengths, expected, why] : rows) {
+    const List list;
+    for (const std::uint32_t length : lengths)
       EXPECT_EQ(aaa_attr_add(list, type::kBinary, value.data(), length, nullptr), 0u);
-    EXPECT_EQ(shape(list), row.shape);
-    EXPECT_EQ(flaws(list), "");
+    EXPECT_EQ(shape(list), expected) << why;
   }
-}
-
-TEST(BlockLayout, CoalescedAndDecodedListsGrowAtTheirEnd) {
-  const auto coalesce = [](List &list) {
-    std::uint32_t size;
-    return aaa_attr_list_buffer_coalesce_and_get_len(list, &size);
-  };
-  expect_changes({
-      {"T=* U=x !V=*", coalesce, "T=* U=x", "the last block is gone"},
-      {"T=* !U=* V=*", coalesce, "T=* V=*", "a block between is gone"},
-      {"!T=* !U=* !V=*", coalesce, "", "all but the head is gone"},
-      {"T=* U=* V=*", [](List &list) { return decode(flat_buffer(list), &list); }, "T=* U=* V=*", "decoded"},
-  });
 }
 
 TEST(BlockLayout, ChainEndsAt65535Blocks) {
@@ -81,18 +61,32 @@ TEST(BlockLayout, ChainEndsAt65535Blocks) {
   List list = list_of("T=old");
   for (int block = 1; block < 65535; ++block)
     ASSERT_EQ(aaa_attr_add(list, type::kBinary, value.data(), 481, nullptr), 0u);
-  EXPECT_EQ(Block(list).block_count(), 65535);
   EXPECT_EQ(aaa_attr_add(list, type::kBinary, value.data(), 1, nullptr), AAA_ATTR_ERR_NO_MEMORY);
-  List more = list_of("U=x");
+  const List more = list_of("U=x");
   EXPECT_EQ(aaa_attr_list_merge_list(list, more), AAA_ATTR_ERR_NO_MEMORY);
-  EXPECT_EQ(outline(more), outline_of("U=x"));
-  EXPECT_EQ(flaws(more), "");
-  EXPECT_EQ(aaa_attr_add_or_replace(list, type::kString, "new", 3, nullptr), 0u) << "needs no block";
-  EXPECT_EQ(aaa_attr_list_attr_count(list), 65535u);
-  EXPECT_EQ(flaws(list), "");
+  EXPECT_EQ(shape(more), "23 1 1 34+478");
+  EXPECT_EQ(Block(list).get(4), 65535);
 
   EXPECT_EQ(aaa_attr_add_or_replace(list, type::kString, "longer", 6, nullptr), AAA_ATTR_ERR_NO_MEMORY);
   EXPECT_EQ(aaa_attr_is_present(list, type::kString), 0) << "the superseded attribute is gone by then";
+}
+
+TEST(BlockLayout, FreeingTakesTheSameStackAtAnyDepth) {
+  constexpr std::size_t kSmallStack = 64 * 1024;
+  aaa_attr_list_handle list = List().release(), innermost = list;
+  for (int level = 0; level < 100'000; ++level)
+    ASSERT_EQ(aaa_attr_add_group_list(innermost, &innermost, type::kGrouped, nullptr), 0u);
+  pthread_attr_t attributes;
+  pthread_attr_init(&attributes);
+  ASSERT_EQ(pthread_attr_setstacksize(&attributes, kSmallStack), 0);
+  pthread_t thread;
+  auto free_list = [](void *handle) -> void * {
+    aaa_attr_list_free(*static_cast<aaa_attr_list_handle *>(handle));
+    return nullptr;
+  };
+  ASSERT_EQ(pthread_create(&thread, &attributes, free_list, &list), 0);
+  EXPECT_EQ(pthread_join(thread, nullptr), 0);
+  pthread_attr_destroy(&attributes);
 }
 
 }  // namespace

@@ -1,11 +1,13 @@
-// Lists written as text, for tables of cases: "T=x !U=y G{V@5=z T+=x}".
+// Lists written as text, for tables of cases: "T=x !U=y G{V=z T+=x}".
 //
 //   list  := (item ' '?)*
-//   item  := '!'? type '+'? ('@' client type)? ('=' value | '{' list '}')     '!' removed, '+' with kMeta
-//   type  := T U V (Strings), P Q (the QoS policies), N (Binary), G H (Grouped), 0 (the invalid type, value of 4 bytes)
-//   value := text, or '*' for one too long for a usual block: it gets a block of its own, and leaves no room in it
+//   item  := '!'? type '+'? ('=' value | '{' list '}')     '!' removed with its equals before it, '+' with kMeta
+//   type  := T U V (Strings: username, auto-logon-service, addr-pool), N (Binary), G H (Grouped), 0 (the invalid type,
+//   value of 4 bytes) value := text, or '*' for one too long for a usual block: it gets a block of its own, and leaves
+//   no room in it
 #pragma once
 
+#include <array>
 #include <cstdlib>
 
 #include "support/lists.h"
@@ -13,40 +15,14 @@
 inline constexpr aaa_attr_meta kMeta = {3, 7, 9, AAA_ATTR_META_MANDATORY, 11};
 
 inline std::uint32_t type_named(char name) {
-  switch (name) {
-    case 'T':
-      return type::kString;
-    case 'U':
-      return 6;  // auto-logon-service
-    case 'V':
-      return 15;  // addr-pool
-    case 'P':
-      return 277;  // qos-policy-in
-    case 'Q':
-      return 278;  // qos-policy-out
-    case 'N':
-      return type::kBinary;
-    case 'G':
-      return type::kGrouped;
-    case 'H':
-      return type::kOtherGrouped;
-    case '0':
-      return 0;
-    default:
-      std::abort();
-  }
+  constexpr std::array kTypes = {type::kString, 6u, 15u, type::kBinary, type::kGrouped, type::kOtherGrouped, 0u};
+  return kTypes.at(std::string_view("TUVNGH0").find(name));
 }
 
 inline bool take(std::string_view &text, char c) {
   if (text.empty() || text[0] != c) return false;
   text.remove_prefix(1);
   return true;
-}
-
-inline std::string_view take_until(std::string_view &text, std::string_view ends) {
-  const std::string_view taken = text.substr(0, text.find_first_of(ends));
-  text.remove_prefix(taken.size());
-  return taken;
 }
 
 inline void add_items(std::string_view &text, aaa_attr_list_handle list) {
@@ -56,29 +32,22 @@ inline void add_items(std::string_view &text, aaa_attr_list_handle list) {
     const std::uint32_t type = type_named(text[0]);
     text.remove_prefix(1);
     const aaa_attr_meta *meta = take(text, '+') ? &kMeta : nullptr;
-    std::uint32_t client_type = 0;
-    if (take(text, '@')) client_type = static_cast<std::uint32_t>(std::stoul(std::string(take_until(text, "={"))));
-    aaa_attr_list_handle sub_list = 0;
     std::string value;
     if (take(text, '{')) {
-      aaa_attr_list_alloc(&sub_list);
+      List sub_list;
       add_items(text, sub_list);
       take(text, '}');
-      value.assign(reinterpret_cast<const char *>(&sub_list), sizeof sub_list);
+      const aaa_attr_list_handle handle = sub_list.release();
+      value.assign(reinterpret_cast<const char *>(&handle), sizeof handle);
     } else {
       take(text, '=');
-      value = take_until(text, " }");
+      value = text.substr(0, text.find_first_of(" }"));
+      text.remove_prefix(value.size());
       if (value == "*") value.assign(520, '*');
     }
     const auto length = static_cast<std::uint32_t>(value.size());
-    if (aaa_attr_add_v1(list, type, value.data(), length, meta, client_type) != 0) std::abort();
-    if (!removed) continue;
-    aaa_cursor *cursor = nullptr;
-    aaa_cursor_alloc(list, &cursor);
-    for (std::uint32_t left = aaa_attr_list_attr_count(list); left > 0; --left) aaa_cursor_get_next(cursor);
-    aaa_cursor_remove(cursor);
-    aaa_cursor_free(cursor);
-    aaa_attr_list_free(sub_list);
+    if (aaa_attr_add(list, type, value.data(), length, meta) != 0) std::abort();
+    if (removed) aaa_attr_remove_on_match(list, type, value.data(), length);
   }
 }
 

@@ -1,0 +1,194 @@
+// Operations on whole lists: the blocks that they leave, and that a list's end is found again; what is refused of one
+// and of two lists; equality, of lists as sets of attributes, to any depth.
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "support/blocks.h"
+#include "support/list_text.h"
+
+namespace {
+
+using Handle = aaa_attr_list_handle;
+
+aaa_attr_cerrno coalesce(List &list) {
+  std::uint32_t size;
+  return aaa_attr_list_buffer_coalesce_and_get_len(list, &size);
+}
+aaa_attr_cerrno decode_flat(List &list) { return decode(flat_buffer(list), &list); }
+aaa_attr_cerrno copy(List &list) {
+  const List source = std::move(list);
+  blocks_of(source).back().put(8, 0);  // a copy counts the free bytes of its own blocks
+  return aaa_attr_list_copy(source, list.out());
+}
+using Change = std::function<aaa_attr_cerrno(List &)>;
+
+Change splice(const char *source) {
+  return [=](List &list) { return aaa_attr_list_merge_list(list, list_of(source).release()); };
+}
+
+TEST(Chain, IsWholeAndGrowsAtItsEnd) {
+  const std::tuple<std::string, Change, std::string, std::string, std::string> rows[] = {
+      {"T=* U=x !V=*", coalesce, "T=* U=x", "21 3 0 24+488 | 20 1 1 553+0 | 22 1 1 34+478", "the last block goes"},
+      {"T=* !U=* V=*", coalesce, "T=* V=*", "21 3 0 24+488 | 20 1 1 553+0 | 22 1 1 553+0", "a block between goes"},
+      {"!T=* !U=*", coalesce, "", "23 1 0 24+488", "all but the head go"},
+      {"T=* U=*", decode_flat, "T=* U=*", "21 3 0 24+488 | 20 1 1 553+0 | 22 1 1 553+0", "decoded"},
+      {"G{T=* H{}} !T=* V=x", copy, "G{T=* H{}} V=x", "25 3 1 40+472 | 20 1 1 553+0 | 22 1 1 34+478", "as it was"},
+      {"T=* U=x", splice("G{T=x} H{} T=y !V=*"), "T=* U=x G{T=x} H{} T=y",
+       "21 5 0 24+488 | 20 1 1 553+0 | 20 1 1 34+478 | 24 1 3 66+446 | 22 1 1 553+0", "removed records, too"},
+  };
+  for (const auto &[before, call, after, blocks, why] : rows) {
+    SCOPED_TRACE(why);
+    List list = list_of(before);
+    EXPECT_EQ(call(list), 0u);
+    EXPECT_EQ(outline(list), outline_of(after));
+    EXPECT_EQ(shape(list), blocks);
+    for (const Block block : blocks_of(list))
+      EXPECT_TRUE(block.at(0) == Block(list).at(0) || block.get<std::uint32_t>(12) == 0) << "no hint but in the head";
+    // The end is found again by a record that may have room there and by one that has not.
+    std::string_view more = "V=x V=*";
+    add_items(more, list);
+    EXPECT_EQ(outline(list), outline_of(after + " V=x V=*"));
+  }
+}
+
+// The rebuild cannot add a type outside the dictionary, which a buffer can bring. Then the old list stays, with its
+// sub-lists, and only what was not wanted is gone.
+TEST(Chain, FilterThatFailsLosesNothing) {
+  List list = list_of("G{T=x} U=y H{} N=z N=w V=v");
+  const std::size_t at_z = 24 + 16 + 10 + 16, at_w = at_z + 9;
+  Block(list).put(at_z, 700);
+  Block(list).put(at_w, 701);
+  const std::uint32_t types[] = {type::kGrouped, 700, type_named('V'), 0x10000 + type_named('U')};
+  EXPECT_EQ(aaa_attr_filter_on_type(list.out(), types, 4), AAA_ATTR_ERR_NOT_FOUND);
+  Block(list).put(at_z, type::kBinary);
+  EXPECT_EQ(outline(list), outline_of("G{T=x} N=z V=v"));
+  EXPECT_EQ(aaa_attr_list_attr_count(list), 6u);
+}
+
+using PairCall = aaa_attr_cerrno (*)(Handle, Handle);
+
+aaa_attr_cerrno copy_groups(Handle to, Handle from) { return aaa_attr_list_copy_by_type(from, to, type::kGrouped); }
+
+TEST(TwoLists, BadAndIdenticalOnesAreRefused) {
+  const std::string message = "Unable to remove attributes of list2 in list1";
+  const PairCall exchange = [](Handle list1, Handle list2) { return aaa_attr_list_replace_and_add_v1(&list1, &list2); };
+  // The codes of handle 0 and of the same list twice; whether every block is looked at, not only the head.
+  const std::tuple<PairCall, std::string, bool, std::string> rows[] = {
+      {aaa_attr_list_append_list, " 86 86 86 86", false, ""},
+      {aaa_attr_list_merge_with_replace, " 86 86 86 86", false, ""},
+      {copy_groups, " 86 86 86 86", false, ""},
+      {aaa_attr_list_merge_double_dip, " 86 86 86 86", false, ""},
+      {aaa_attr_list_merge_list, " 8a 8a 8a 86", false, ""},
+      {aaa_attr_list_replace_and_add, " 86 86 86 86", true, message},
+      {exchange, " 86 86 86 86", true, message},
+      {aaa_attr_list_remove_list, " 8a 8a 8a 00", true, ""},
+      {aaa_attr_list_remove_list_on_match, " 8a 8a 8a 00", true, ""},
+      {aaa_attr_list_remove_common_attrs, " 8a 8a 8a 00", true, ""},
+  };
+  for (const auto &row : rows) {
+    const auto &[call, codes, whole, printed] = row;
+    SCOPED_TRACE("row " + std::to_string(&row - rows));
+    const List list = list_of("G{T=x} U=y"), bad = list_of("T=*"), texts = list_of("T=x U=y");
+    const Block damaged = blocks_of(bad)[whole ? 1 : 0];
+    damaged.put(0, 0);
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(in_short(call(0, list), call(list, 0), call(0, 0), call(texts, texts)), codes);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(in_short(call(list, bad), call(bad, list), call(bad, bad)), " 8a 8a 8a");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), printed + printed + printed);
+    EXPECT_EQ(aaa_attr_list_eq(list, bad) + aaa_attr_list_eq(bad, list), 0);
+    EXPECT_EQ(aaa_attr_list_eq(bad, bad), 1);
+    damaged.put(0, 0xABCD);
+    EXPECT_EQ(outline(list), outline_of("G{T=x} U=y"));
+    EXPECT_EQ(outline(texts), codes.back() == '0' ? "" : outline_of("T=x U=y"));
+  }
+}
+
+// A copy that stops half-way goes without the source's sub-lists.
+TEST(TwoLists, CopyRefusesDamagedBlocks) {
+  const std::tuple<std::size_t, std::size_t, std::uint16_t> rows[] = {
+      {0, 2, 0x2502}, {1, 2, 0x2002}, {3, 2, 0x2202}, {0, 10, 513}};  // versions, used bytes
+  Handle copy = 77;
+  for (const auto &[block, offset, value] : rows) {
+    const List source = list_of("G{T=x} U=* H{V=y} T=*");
+    const Block damaged = blocks_of(source)[block];
+    const std::uint16_t good = damaged.get(offset);
+    damaged.put(offset, value);
+    EXPECT_EQ(aaa_attr_list_copy(source, &copy), AAA_ATTR_ERR_BAD_LIST) << "block " << block;
+    damaged.put(offset, good);
+    EXPECT_EQ(outline(source), outline_of("G{T=x} U=* H{V=y} T=*")) << "block " << block;
+  }
+  EXPECT_EQ(aaa_attr_list_copy(0, &copy), AAA_ATTR_ERR_BAD_LIST);
+  List source = list_of("G{T=x} H{U=y}"), destination;
+  const Block gone(source.group(type::kGrouped));
+  gone.put(0, 0xFFFF);
+  EXPECT_EQ(aaa_attr_list_copy(source, &copy), AAA_ATTR_ERR_STALE_HANDLE) << "of the third sub-list";
+  EXPECT_EQ(copy, 77u);
+  EXPECT_EQ(aaa_attr_list_append_list(destination, source), AAA_ATTR_ERR_STALE_HANDLE);
+  EXPECT_EQ(outline(destination), outline_of("G{T=x} H{U=y}")) << "what came before stays";
+  gone.put(0, 0xABCD);
+}
+
+// The bytes of all blocks, of the sub-lists too.
+std::string bytes_of(aaa_attr_list_handle list) {
+  std::string bytes;
+  for (const Block block : blocks_of(list)) bytes.append(reinterpret_cast<const char *>(block.at(0)), block.used());
+  aaa_cursor *cursor = nullptr;
+  aaa_cursor_alloc(list, &cursor);
+  aaa_attr_list_handle sub_list = 0;
+  while (aaa_cursor_get_next(cursor) != 0)
+    if (aaa_cursor_grouped(cursor) != 0 && aaa_cursor_get_grouped_attr_handle(cursor, &sub_list) == 0)
+      bytes += bytes_of(sub_list);
+  aaa_cursor_free(cursor);
+  return bytes;
+}
+
+// Lists nested 128 deep around `innermost`: before and behind are the texts around the sub-list of each level.
+std::string nested(const std::string &innermost, const std::string &before, const std::string &behind) {
+  std::string text = innermost;
+  for (int level = 0; level < AAA_ATTR_NESTING_MAX; ++level) text = before + "G{" + text + "}" + behind;
+  return text;
+}
+
+// A search in both directions at every level of the nested ones would go on for ages.
+TEST(Equality, ComparesSetsOfAttributesAndLeavesNoTrace) {
+  const std::tuple<std::string, std::string, bool, std::string> rows[] = {
+      {"G{T=a} G{T=b} G{T=* U=*}", "G{U=* T=*} G{T=a} G{T=b}", true, "shuffled"},
+      {"G{T=a} G{T=a} G{T=b}", "G{T=b} G{T=b} G{T=a}", true, "others repeated"},
+      {"G{T=a} G{T=b} G{T=a}", "G{T=a} G{T=a} G{T=c}", false, "b and c"},
+      {"G{T=a} U=x G{T=b}", "U=x G{T=b} G{T=b} G{T=a} G{}", false, "the empty one"},
+      {"H{G{T=a} G{T=b}} H{G{T=c}}", "H{G{T=c} G{T=c}} H{G{T=b} G{T=a}}", true, "shuffled at two levels"},
+      {nested("", "T=x ", ""), nested("", "", " T=x"), true, "opposite order"},
+      {nested("U=a", "T=x ", ""), nested("U=b", "", " T=x"), false, "opposite order, another innermost list"},
+      {nested("U=a", "", ""), nested("U=b", "", ""), false, "the same order, another innermost list"},
+      {nested("", "", " T=x U=y"), nested("", "", " U=y T=x"), true, "the order differs behind the sub-list"},
+      {nested("", "G{T=x} ", ""), nested("", "", " G{T=x}"), true, "two of a type in opposite order"},
+      {nested("U=a", "G{T=x} ", ""), nested("U=b", "", " G{T=x}"), false, "two of a type, another innermost list"},
+      {nested("", "G{} T=x G{T=x} ", ""), nested("", "T=x G{T=x} G{T=x} ", " G{}"), true, "with duplicates"},
+      {nested("", "H{} ", " H{U=a}"), nested("", "H{U=a} ", " H{} T=x"), false, "one more at every level"},
+  };
+  for (const auto &[text1, text2, equal, why] : rows) {
+    SCOPED_TRACE(why);
+    const List list1 = list_of(text1), list2 = list_of(text2);
+    const std::string before1 = bytes_of(list1), before2 = bytes_of(list2);
+    EXPECT_EQ(aaa_attr_list_eq(list1, list2), equal);
+    EXPECT_EQ(aaa_attr_list_eq(list2, list1), equal);
+    EXPECT_TRUE(bytes_of(list1) == before1 && bytes_of(list2) == before2);
+  }
+  EXPECT_EQ(aaa_attr_list_eq(0, 0), 1);
+  EXPECT_EQ(aaa_attr_list_eq(0, List()) + aaa_attr_list_eq(List(), 0), 0);
+}
+
+TEST(Equality, ComparesEveryByteOfTheMeta) {
+  const List list = list_of("T+=x"), other = list_of("T+=x");
+  for (std::size_t byte = 0; byte < sizeof kMeta; ++byte) {
+    *Block(other).at(24 + 8 + byte) ^= 0x80;
+    EXPECT_EQ(aaa_attr_list_eq(list, other), 0) << byte;
+    *Block(other).at(24 + 8 + byte) ^= 0x80;
+    EXPECT_EQ(aaa_attr_list_eq(list, other), 1) << byte;
+  }
+}
+
+}  // namespace
