@@ -81,7 +81,6 @@ void *malloc_pc(std::size_t size, const void *owner) {
   return std::malloc(size);
 }
 
-
 char *ipv6_address_to_string(const std::uint8_t *, char *text) { return std::strcpy(text, "six"); }
 
 namespace {

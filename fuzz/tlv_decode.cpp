@@ -1,0 +1,27 @@
+// Any bytes as a TLV buffer: what the decoder accepts can be used in every way.
+#include "exercise.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
+  std::vector<std::uint8_t> bytes{AAA_MARSHAL_TLV};
+  bytes.insert(bytes.end(), data, data + size);
+  exercise::Copy buffer(bytes.data(), bytes.size());
+  aaa_attr_list_handle list = 1;
+  const aaa_attr_cerrno code = aaa_attr_buffer_to_list(buffer.data(), static_cast<std::uint32_t>(bytes.size()), &list);
+  if (code != 0) {
+    REQUIRE(list == 0 && (code == AAA_ATTR_ERR_BAD_LENGTH || code == AAA_ATTR_ERR_NOT_FOUND ||
+                          code == AAA_ATTR_ERR_BAD_ARG || code == AAA_ATTR_ERR_NO_MEMORY));
+    return 0;
+  }
+  exercise::use(list);
+  // A TLV buffer made from the list decodes to an equal one.
+  std::uint32_t length = 0;
+  aaa_attr_list_tlv_to_buffer(list, nullptr, &length);
+  std::vector<std::uint8_t> tlv(length);
+  REQUIRE(aaa_attr_list_tlv_to_buffer(list, tlv.data(), &length) == 0);
+  aaa_attr_list_handle again = 0;
+  REQUIRE(aaa_attr_buffer_to_list(tlv.data(), length, &again) == 0);
+  REQUIRE(aaa_attr_list_eq(list, again) == 1);
+  aaa_attr_list_free(again);
+  aaa_attr_list_free(list);
+  return 0;
+}
