@@ -72,11 +72,12 @@ TEST(CheckAndScrub, MarkersAndAddresses) {
 TEST(LookUp, FindsTheFirstInBufferOrder) {
   using Answer = std::tuple<aaa_attr_cerrno, std::uint32_t, std::uint32_t, Bytes>;
   const auto answer = [](const char *patches, std::uint32_t type, std::uint32_t capacity) {
-    Bytes value(capacity, 0xEE);
-    value.reserve(1);  // not null without capacity
+    Bytes value(capacity + 1, 0xEE);  // one more than it may use, so that there is an address without capacity
     std::uint32_t size = capacity, format = 99;
     const Bytes buffer = patched(hex(golden::kNested), patches);
     const aaa_attr_cerrno code = aaa_attr_get_from_buffer(buffer.data(), type, &format, value.data(), &size);
+    EXPECT_EQ(value.back(), 0xEE);
+    value.pop_back();
     return Answer(code, size, format, value);
   };
   EXPECT_EQ(answer("", 197, 5), Answer(0, 4, AAA_ATTR_FMT_STRING, hex("626f6200ee"))) << "a text comes with its NUL";

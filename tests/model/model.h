@@ -63,8 +63,9 @@ inline Bytes value_of(const Attr &a) { return a.sub.empty() ? a.value : handle_b
 inline bool same_value(const Attr &a, const Attr &b) { return a.type == b.type && value_of(a) == value_of(b); }
 
 // What a walk visits: live records, with a filter only those whose meta matches it; type 0 is the end.
-inline std::vector<Attr *> live(List &list, const aaa_attr_meta &filter = {}) {
-  std::vector<Attr *> found;
+using Attrs = std::vector<Attr *>;
+inline Attrs live(List &list, const aaa_attr_meta &filter = {}) {
+  Attrs found;
   for (Attr &a : list.records) {
     const bool named = a.meta && a.meta->service == filter.service && a.meta->protocol == filter.protocol;
     if (a.deleted || ((filter.service || filter.protocol) && !named)) continue;
@@ -73,13 +74,12 @@ inline std::vector<Attr *> live(List &list, const aaa_attr_meta &filter = {}) {
   }
   return found;
 }
-template <typename Predicate>
-std::vector<Attr *> all(List &list, Predicate predicate) {
-  std::vector<Attr *> found = live(list);
-  std::erase_if(found, [&](Attr *a) { return !predicate(*a); });
+inline Attrs all(List &list, auto wanted) {
+  Attrs found = live(list);
+  std::erase_if(found, [&](Attr *a) { return !wanted(*a); });
   return found;
 }
-inline std::vector<Attr *> of_type(List &list, std::uint32_t type) {
+inline Attrs of_type(List &list, std::uint32_t type) {
   return all(list, [type](const Attr &a) { return a.type == type; });
 }
 
@@ -109,46 +109,42 @@ inline bool replaces(const Meta &a, const Meta &b) {
   if (!a || !b) return !a && !b;
   return a->service == b->service && a->protocol == b->protocol && a->tag == b->tag && a->flags % 2 == b->flags % 2;
 }
-inline Code add_or_replace(List &list, Attr given, bool beside_other_meta) {
+// The first version takes no client type, and adds beside an attribute with another meta.
+template <int version>
+Code replace(List &list, Attr given) {
   if (const Code code = refusal(given)) return code;
-  const std::vector<Attr *> old = of_type(list, given.type);
-  if (old.empty()) return add(list, std::move(given));
-  Attr &first = *old[0];
-  const bool same = replaces(first.meta, given.meta);
-  if (same && value_of(first).size() == value_of(given).size()) {
-    given.client_type = first.client_type;
-    first = std::move(given);
-    return 0;
+  if (version == 1) given.client_type = 0;
+  if (const Attrs old = of_type(list, given.type); !old.empty()) {
+    const bool same = replaces(old[0]->meta, given.meta);
+    if (same && value_of(*old[0]).size() == value_of(given).size()) {
+      given.client_type = old[0]->client_type;
+      *old[0] = given;
+      return 0;
+    }
+    if (same || version != 1) erase(*old[0]);
   }
-  if (same || !beside_other_meta) erase(first);
-  return add(list, std::move(given));
+  return add(list, given);
 }
-inline Code replace_v1(List &list, Attr given) {
-  given.client_type = 0;
-  return add_or_replace(list, std::move(given), true);
-}
-inline Code replace_v2(List &list, Attr given) { return add_or_replace(list, std::move(given), false); }
 inline Code double_dip(List &list, Attr given) {
-  return given.type == 277 || given.type == 278 ? add(list, std::move(given)) : replace_v2(list, std::move(given));
+  return given.type == 277 || given.type == 278 ? add(list, given) : replace<2>(list, given);
 }
 
 // ---- Removing ----
 
-template <typename Predicate>
-Code remove_if(List &list, Left *left, Predicate predicate) {
-  for (Attr *a : all(list, predicate)) erase(*a, left);
+inline Code remove_if(List &list, Left *left, auto wanted) {
+  for (Attr *a : all(list, wanted)) erase(*a, left);
   return 0;
 }
 inline Code remove_types_of(List &list1, List &list2) {
-  return remove_if(list1, nullptr, [&](const Attr &a) { return !of_type(list2, a.type).empty(); });
+  return remove_if(list1, nullptr, [&](auto &a) { return !of_type(list2, a.type).empty(); });
 }
 inline Code remove_values_of(List &list1, List &list2, Left *left) {
-  return remove_if(list1, left,
-                   [&](const Attr &a) { return !all(list2, [&](const Attr &b) { return same_value(a, b); }).empty(); });
+  const auto listed = [&](auto &a) { return !all(list2, [&](auto &b) { return same_value(a, b); }).empty(); };
+  return remove_if(list1, left, listed);
 }
 inline Code remove_common(List &list1, List &list2, Left *left) {
   for (Attr *a : live(list1)) {
-    const std::vector<Attr *> others = of_type(list2, a->type);
+    const Attrs others = of_type(list2, a->type);
     if (others.empty()) continue;
     if (same_value(*a, *others[0])) erase(*others[0], left);
     erase(*a, left);
@@ -186,8 +182,8 @@ Code take_over(List &destination, List &source) {
 }
 inline Code copy_by_type(List &source, List &destination, std::uint32_t type) {
   List wanted = source;
-  remove_if(wanted, nullptr, [type](const Attr &a) { return a.type != type; });
-  return &destination == &source ? AAA_ATTR_ERR_BAD_ARG : take_over<add, false>(destination, wanted);
+  remove_if(wanted, nullptr, [type](auto &a) { return a.type != type; });
+  return take_over<add, false>(destination, &destination == &source ? source : wanted);
 }
 inline Code replace_and_add(List &destination, List &source) {
   if (&destination != &source) remove_types_of(destination, source);
@@ -204,11 +200,10 @@ inline Code merge_list(List &destination, List &source) {
   for (Attr &a : std::exchange(source.records, {})) destination.records.push_back(std::move(a));
   return 0;
 }
-inline Code filter_on_type(List &list, const std::vector<std::uint32_t> &types) {
+inline Code filter_on_type(List &list, auto wanted) {
   std::vector<Attr> kept;
-  for (Attr *a : live(list))
-    if (std::count(types.begin(), types.end(), a->type)) kept.push_back(std::move(*a));
-  list.records = std::move(kept);
+  for (Attr *a : all(list, wanted)) kept.push_back(*a);
+  list.records = kept;
   return 0;
 }
 inline Code coalesce(List &list) {

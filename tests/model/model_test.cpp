@@ -8,12 +8,15 @@
 namespace {
 
 RC_GTEST_PROP(Model, LibraryAgreesAfterEveryOperation, ()) {
-  using rc::gen::construct, rc::gen::container, rc::gen::resize;
   constexpr int kMostSteps = 60;
-  const auto step =
-      construct<model::Step>(resize(rc::kNominalSize, rc::gen::arbitrary<decltype(model::Step::bytes)>()));
+  const auto step = rc::gen::resize(rc::kNominalSize, rc::gen::arbitrary<model::Step>());
+  const auto steps = *rc::gen::resize(kMostSteps, rc::gen::container<std::vector<model::Step>>(step));
   model::World world;
-  for (const model::Step &s : *resize(kMostSteps, container<std::vector<model::Step>>(step))) world.run(s);
+  try {
+    for (const model::Step &s : steps) world.run(s);
+  } catch (const std::logic_error &error) {
+    RC_FAIL(world.history.str() + "\n  " + error.what());
+  }
 }
 
 }  // namespace
