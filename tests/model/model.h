@@ -19,7 +19,7 @@ struct Attr {
   Bytes value;  // as the caller gives it; of a Grouped record that holds a list: nothing
   Meta meta;
   std::uint32_t client_type = 0;
-  std::vector<List> sub;  // of a live Grouped record: the one list that it owns
+  std::vector<List> sub;  // of a Grouped record: the one list that it owns; if deleted: that it leaves to the client
   bool deleted = false;
 };
 struct List {
@@ -80,7 +80,7 @@ inline Attrs all(List &list, auto wanted) {
   return found;
 }
 inline Attrs of_type(List &list, std::uint32_t type) {
-  return all(list, [type](const Attr &a) { return a.type == type; });
+  return all(list, [=](auto &a) { return a.type == type; });
 }
 
 // ---- Adding ----
@@ -98,12 +98,10 @@ inline Code add(List &list, Attr given) {
   list.records.push_back(std::move(given));
   return 0;
 }
-// The sub-list is freed, or left to the client.
-using Left = std::vector<Handle>;
-inline void erase(Attr &a, Left *left = nullptr) {
-  if (left) left->insert(left->end(), a.sub.begin(), a.sub.end());
-  a.sub.clear();
+enum SubList { kFreed, kLeft };  // to the client
+inline void erase(Attr &a, SubList sub) {
   a.deleted = true;
+  if (sub == kFreed) a.sub.clear();
 }
 inline bool replaces(const Meta &a, const Meta &b) {
   if (!a || !b) return !a && !b;
@@ -121,33 +119,32 @@ Code replace(List &list, Attr given) {
       *old[0] = given;
       return 0;
     }
-    if (same || version != 1) erase(*old[0]);
+    if (same || version != 1) erase(*old[0], kFreed);
   }
   return add(list, given);
 }
 inline Code double_dip(List &list, Attr given) {
-  return given.type == 277 || given.type == 278 ? add(list, given) : replace<2>(list, given);
+  return (given.type == 277 || given.type == 278 ? add : replace<2>)(list, given);
 }
 
 // ---- Removing ----
 
-inline Code remove_if(List &list, Left *left, auto wanted) {
-  for (Attr *a : all(list, wanted)) erase(*a, left);
+inline Code remove_if(List &list, SubList sub, auto wanted) {
+  for (Attr *a : all(list, wanted)) erase(*a, sub);
   return 0;
 }
 inline Code remove_types_of(List &list1, List &list2) {
-  return remove_if(list1, nullptr, [&](auto &a) { return !of_type(list2, a.type).empty(); });
+  return remove_if(list1, kFreed, [&](auto &a) { return !of_type(list2, a.type).empty(); });
 }
-inline Code remove_values_of(List &list1, List &list2, Left *left) {
+inline Code remove_values_of(List &list1, List &list2) {
   const auto listed = [&](auto &a) { return !all(list2, [&](auto &b) { return same_value(a, b); }).empty(); };
-  return remove_if(list1, left, listed);
+  return remove_if(list1, kLeft, listed);
 }
-inline Code remove_common(List &list1, List &list2, Left *left) {
+inline Code remove_common(List &list1, List &list2) {
   for (Attr *a : live(list1)) {
     const Attrs others = of_type(list2, a->type);
-    if (others.empty()) continue;
-    if (same_value(*a, *others[0])) erase(*others[0], left);
-    erase(*a, left);
+    if (!others.empty() && same_value(*a, *others[0])) erase(*others[0], kLeft);
+    if (!others.empty()) erase(*a, kLeft);
   }
   return 0;
 }
@@ -182,7 +179,7 @@ Code take_over(List &destination, List &source) {
 }
 inline Code copy_by_type(List &source, List &destination, std::uint32_t type) {
   List wanted = source;
-  remove_if(wanted, nullptr, [type](auto &a) { return a.type != type; });
+  remove_if(wanted, kFreed, [type](auto &a) { return a.type != type; });
   return take_over<add, false>(destination, &destination == &source ? source : wanted);
 }
 inline Code replace_and_add(List &destination, List &source) {
@@ -200,16 +197,6 @@ inline Code merge_list(List &destination, List &source) {
   for (Attr &a : std::exchange(source.records, {})) destination.records.push_back(std::move(a));
   return 0;
 }
-inline Code filter_on_type(List &list, auto wanted) {
-  std::vector<Attr> kept;
-  for (Attr *a : all(list, wanted)) kept.push_back(*a);
-  list.records = kept;
-  return 0;
-}
-inline Code coalesce(List &list) {
-  std::erase_if(list.records, [](const Attr &a) { return a.deleted; });
-  return 0;
-}
 inline Code stamp(List &list, std::uint32_t client_type, bool only_unstamped) {
   for (Attr *a : live(list)) {
     if (client_type < 1 || client_type > 23) return AAA_ATTR_ERR_BAD_ARG;
@@ -222,11 +209,11 @@ inline Code stamp(List &list, std::uint32_t client_type, bool only_unstamped) {
 
 inline bool covers(List &list1, List &list2) {
   const auto matches = [](Attr &a, Attr &b) {
-    if (a.type != b.type) return false;
-    if (grouped(a)) return covers(a.sub[0], b.sub[0]) && covers(b.sub[0], a.sub[0]);
+    if (grouped(a)) return a.type == b.type && covers(a.sub[0], b.sub[0]) && covers(b.sub[0], a.sub[0]);
     const bool same_meta = a.meta && b.meta ? std::memcmp(&*a.meta, &*b.meta, sizeof *a.meta) == 0 : !a.meta && !b.meta;
-    return a.value == b.value && same_meta;
+    return same_value(a, b) && same_meta;
   };
-  return all(list1, [&](Attr &a) { return all(list2, [&](Attr &b) { return matches(a, b); }).empty(); }).empty();
+  return all(list1, [&](auto &a) { return all(list2, [&](auto &b) { return matches(a, b); }).empty(); }).empty();
 }
+
 }  // namespace model

@@ -5,12 +5,10 @@
 
 #include "model/operations.h"
 
-namespace {
-
 RC_GTEST_PROP(Model, LibraryAgreesAfterEveryOperation, ()) {
-  constexpr int kMostSteps = 60;
   const auto step = rc::gen::resize(rc::kNominalSize, rc::gen::arbitrary<model::Step>());
-  const auto steps = *rc::gen::resize(kMostSteps, rc::gen::container<std::vector<model::Step>>(step));
+  // Up to 60 of them.
+  const auto steps = *rc::gen::resize(60, rc::gen::container<std::vector<model::Step>>(step));
   model::World world;
   try {
     for (const model::Step &s : steps) world.run(s);
@@ -18,5 +16,3 @@ RC_GTEST_PROP(Model, LibraryAgreesAfterEveryOperation, ()) {
     RC_FAIL(world.history.str() + "\n  " + error.what());
   }
 }
-
-}  // namespace

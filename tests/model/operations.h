@@ -3,7 +3,7 @@
 #pragma once
 
 #include <array>
-#include <iterator>
+#include <map>
 #include <sstream>
 #include <stdexcept>
 
@@ -15,13 +15,9 @@ inline void agree(const char *what, std::uint64_t library, std::uint64_t model) 
   if (library != model)
     throw std::logic_error(std::string(what) + ": " + std::to_string(library) + ", model: " + std::to_string(model));
 }
-inline bool holds(const void *value, std::uint32_t length, const Bytes &expected) {
-  return length == expected.size() && std::memcmp(value, expected.data(), length) == 0;
-}
 // A cursor of the library.
 struct Walk {
   ~Walk() { aaa_cursor_free(cursor); }
-  std::uint32_t next() const { return aaa_cursor_get_next(cursor); }
   aaa_cursor *cursor = nullptr;
 };
 
@@ -41,51 +37,43 @@ inline List &down(List &list, unsigned depth, unsigned choice) {
   const Attrs subs = all(list, grouped);
   return depth == 0 || subs.empty() ? list : down(subs[choice % subs.size()]->sub[0], depth - 1, choice);
 }
-// What a step comes to. The frequent values of a field come first, and stand for the rest of the range.
+// What a step comes to. The first values of a field are the frequent ones.
 struct Call {
-  Call(std::array<List, 3> &lists, const Step &s)
-      : operation(s[0] % 42u),
-        outer(lists[s[1] % 3]),
-        other_outer(lists[s[2] % 3]),
-        choice(s[3] + 256u * s[4]),
-        list(down(outer, depth(s[5]), choice)),
-        other(down(other_outer, depth(s[6]), choice)),
-        meta(kMetas[s[7] % 11 < 7 ? s[7] % 11 : 0]),
-        client_type(kClientTypes[s[8] % 7]) {
-    const Type &type = kTypes[s[9] % 35 < 17 ? s[9] % 35 : s[9] % 6];
-    std::uint32_t length = kLengths[s[10] < 250 ? s[10] % 18 : 18 + s[10] % 6];
-    if (s[10] < 128 || (type.length && length > 17)) length = type.length ? type.length : 2;
-    given = {type.number, {}, {}, client_type, {}};
-    if (meta.service) given.meta = meta;
-    given.value.reserve(1);  // not null when it is empty
-    while (given.value.size() < length)
-      given.value.push_back(static_cast<std::uint8_t>(choice % 3 + given.value.size() % 7));
-    if (grouped(given) && length == sizeof(Handle)) given.value = handle_bytes(made);
-  }
   // A list and its own sub-lists are not used together.
   unsigned depth(unsigned n) const { return &outer == &other_outer || n % 8 < 5 ? 0 : n % 8 < 7 ? 1 : 2; }
+  Attr attribute() const {
+    std::uint32_t length = kLengths[s[10] < 250 ? s[10] % 18 : 18 + s[10] % 6];
+    if (s[10] < 128 || (type.length && length > 17)) length = type.length ? type.length : 2;
+    Attr a{type.number, Bytes(length), meta.service ? Meta(meta) : Meta(), client_type, {}};
+    for (std::uint32_t i = 0; i < length; ++i) a.value[i] = static_cast<std::uint8_t>(choice % 3 + i % 7);
+    a.value.reserve(1);  // not null when it is empty
+    if (grouped(a) && length == sizeof(Handle)) a.value = handle_bytes(made);
+    return a;
+  }
   std::uint32_t length() const { return static_cast<std::uint32_t>(given.value.size()); }
   const aaa_attr_meta *given_meta() const { return given.meta ? &*given.meta : nullptr; }
   // Where the library puts a new list.
   Handle *out() { return (made = ::List(0)).out(); }
 
-  const std::size_t operation;
-  List &outer, &other_outer;
-  const unsigned choice;  // of sub-lists, attributes, types, bytes
-  List &list, &other;     // the outer lists, or sub-lists in them; the one that changes first
-  const aaa_attr_meta &meta;
-  const std::uint32_t client_type;
-  ::List made;               // to be given away, or to take a list's place; else freed with the call
-  std::vector<Attr> inside;  // what is in it
-  Attr given;                // of the adding operations; of a Grouped type: without the list
-  Left left;                 // sub-lists that the client has back, freed after the call
+  std::array<List, 3> &lists;
+  const Step &s;
+  List &outer = lists[s[1] % 3], &other_outer = lists[s[2] % 3];  // the one that changes first
+  unsigned choice = s[3] + 256u * s[4];                           // of sub-lists, attributes, types, bytes
+  List &list = down(outer, depth(s[5]), choice), &other = down(other_outer, depth(s[6]), choice);
+  const aaa_attr_meta &meta = kMetas[s[7] % 11 < 7 ? s[7] % 11 : 0];
+  std::uint32_t client_type = kClientTypes[s[8] % 7];
+  const Type &type = kTypes[s[9] % 35 < 17 ? s[9] % 35 : s[9] % 6];
+  ::List made = {};               // to be given away, or to take a list's place; else freed with the call
+  std::vector<Attr> inside = {};  // what is in it
+  Attr given = attribute();       // of the adding operations; of a Grouped type: without the list
 };
 
 // ---- The library's side ----
 
-template <auto library>
+// With the client type, if the function takes one.
+template <auto library, auto... client_type>
 Code adding(Call &c) {
-  return library(c.list, c.given.type, c.given.value.data(), c.length(), c.given_meta(), c.given.client_type);
+  return library(c.list, c.given.type, c.given.value.data(), c.length(), c.given_meta(), c.given.*client_type...);
 }
 // A new list, or another whole list. The handle is the value, whatever the type: others store it as mere bytes.
 inline Code add_group_list(Call &c) {
@@ -113,22 +101,21 @@ inline Code remove_on_match(Call &c) {
 inline Code cursor_remove(Call &c) {
   Walk walk;
   aaa_cursor_alloc_filtered(c.list, &walk.cursor, c.meta.service, c.meta.protocol);
-  unsigned bits = c.choice;
+  unsigned n = 0;
   for (Attr *a : live(c.list, c.meta)) {
-    agree("type of the walk", walk.next(), a->type);
-    bits = bits >> 1 | bits << 15;
-    if (bits & 1) continue;
+    agree("type of the walk", aaa_cursor_get_next(walk.cursor), a->type);
+    if (c.choice >> n++ % 16 & 1) continue;
+    for (List &sub : a->sub) aaa_cursor_get_grouped_attr_handle(walk.cursor, &sub.handle);  // may lie behind a type 0
     aaa_cursor_remove(walk.cursor);
-    erase(*a, &c.left);
+    erase(*a, kLeft);
   }
-  return walk.next();
+  return aaa_cursor_get_next(walk.cursor);
 }
-inline Code coalesce_library(Call &c) {
+inline Code coalesce(Call &c) {
   std::uint32_t size = 0;
   const Code code = aaa_attr_list_buffer_coalesce_and_get_len(c.list, &size);
-  const Bytes buffer = flat_buffer(c.list);
-  agree("announced size", size, buffer.size());
-  agree("validity of the buffer", static_cast<unsigned>(is_aaa_attr_buffer_valid(buffer.data(), size, &size)), 1);
+  agree("announced size", size, flat_buffer(c.list).size());
+  std::erase_if(c.list.records, [](const Attr &a) { return a.deleted; });
   return code;
 }
 inline Code merge_list(Call &c) {
@@ -137,39 +124,31 @@ inline Code merge_list(Call &c) {
   return code;
 }
 inline Code filter_on_type(Call &c) {
-  const std::uint32_t types[] = {c.given.type, kTypes[c.choice % 16].number, kTypes[c.choice / 16 % 16].number};
-  filter_on_type(c.outer, [&](auto &a) { return std::count(types, types + 3, a.type); });
-  return aaa_attr_filter_on_type(&c.outer.handle, types, 3 + 256 * (c.choice % 3));  // its low byte counts
-}
-inline Code find(Call &c) {
-  const Attrs found = of_type(c.list, c.given.type);
-  const auto n = static_cast<std::uint16_t>(c.choice % 3);
-  const void *value = nullptr;
-  std::uint32_t length = 0;
-  const Code code = aaa_attr_get_nth(c.list, c.given.type, &value, &length, n);
-  agree("finding", code, n < found.size() ? 0 : AAA_ATTR_ERR_NOT_FOUND);
-  return code || holds(value, length, value_of(*found[n])) ? 0 : AAA_ATTR_ERR_BAD_FORMAT;
+  const std::uint32_t types[] = {c.type.number, kTypes[c.choice % 16].number, kTypes[c.choice / 16 % 16].number};
+  std::vector<Attr> kept;
+  for (Attr *a : all(c.outer, [&](auto &b) { return std::count(types, types + 3, b.type); })) kept.push_back(*a);
+  c.outer.records = kept;
+  return aaa_attr_filter_on_type(&c.outer.handle, types, 3 + 256 * (c.choice % 3));  // the low byte of the count counts
 }
 // A flat buffer carries removed records, too, is read in place, and comes back from the other byte order as it was.
 inline Code flat(Call &c) {
+  std::uint32_t size = 0;
+  Code code = aaa_attr_list_buffer_len(c.outer, &size);
   Bytes buffer = flat_buffer(c.outer);
-  const auto length = static_cast<std::uint32_t>(buffer.size());
-  std::uint32_t announced = 0;
-  agree("measuring", aaa_attr_list_buffer_len(c.outer, &announced), 0);
-  agree("announced size", announced, length);
-  agree("validity", static_cast<unsigned>(is_aaa_attr_buffer_valid(buffer.data(), length, &announced)), 1);
+  agree("announced size", size, buffer.size());
+  agree("validity of the buffer", static_cast<unsigned>(is_aaa_attr_buffer_valid(buffer.data(), size, &code)), 1);
 
   const Bytes before = buffer;
   char *bytes = reinterpret_cast<char *>(buffer.data());
   agree("translation", aaa_attrs_buffer_tran(bytes, CDM_ENDIAN_TRAN_HTON), 0);
   agree("other form", buffer != before, true);
-  agree("translation back", aaa_attrs_buffer_tran_v1(bytes, length, CDM_ENDIAN_TRAN_NTOH), 0);
+  agree("translation back", aaa_attrs_buffer_tran_v1(bytes, size, CDM_ENDIAN_TRAN_NTOH), 0);
   agree("own form", buffer == before, true);
 
   Walk walk;
   aaa_cursor_alloc_from_buffer(buffer.data(), &walk.cursor);
-  for (const Attr *a : live(c.outer)) agree("type in place", walk.next(), a->type);
-  agree("end in place", walk.next(), 0);
+  for (const Attr *a : live(c.outer)) agree("type in place", aaa_cursor_get_next(walk.cursor), a->type);
+  agree("end in place", aaa_cursor_get_next(walk.cursor), 0);
   return decode(buffer, &c.made);
 }
 
@@ -204,31 +183,24 @@ struct Operation {
 };
 // The first four fill lists and are run more often.
 inline constexpr Operation kOperations[] = {
-    {"add_v1", adding<aaa_attr_add_v1>, give<add>},
+    {"add_v1", adding<aaa_attr_add_v1, &Attr::client_type>, give<add>},
     {"add_group_list", add_group_list, give<add>},
-    {"add_or_replace_v2", adding<aaa_attr_add_or_replace_v2>, give<replace<2>>},
-    {"add_or_replace_v1",
-     [](Call &c) {
-       return aaa_attr_add_or_replace_v1(c.list, c.given.type, c.given.value.data(), c.length(), c.given_meta());
-     },
-     give<replace<1>>},
+    {"add_or_replace_v2", adding<aaa_attr_add_or_replace_v2, &Attr::client_type>, give<replace<2>>},
+    {"add_or_replace_v1", adding<aaa_attr_add_or_replace_v1>, give<replace<1>>},
     {"add_existing_group_list", add_existing_group_list, give<add>},
-    {"remove", [](Call &c) { return aaa_attr_remove(c.list, c.given.type); },
-     [](Call &c) { return remove_if(c.list, nullptr, [&](auto &a) { return a.type == c.given.type; }); }},
+    {"remove", [](Call &c) { return aaa_attr_remove(c.list, c.type.number); },
+     [](Call &c) { return remove_if(c.list, kFreed, [&](auto &a) { return a.type == c.type.number; }); }},
     {"remove_on_match", remove_on_match,
-     [](Call &c) { return remove_if(c.list, &c.left, [&](auto &a) { return same_value(a, c.given); }); }},
+     [](Call &c) { return remove_if(c.list, kLeft, [&](auto &a) { return same_value(a, c.given); }); }},
     {"remove_list", lists<aaa_attr_list_remove_list>, lists<remove_types_of>},
-    {"remove_list_on_match", lists<aaa_attr_list_remove_list_on_match>,
-     [](Call &c) { return remove_values_of(c.list, c.other, &c.left); }},
-    {"remove_common_attrs", lists<aaa_attr_list_remove_common_attrs>,
-     [](Call &c) { return remove_common(c.list, c.other, &c.left); }},
+    {"remove_list_on_match", lists<aaa_attr_list_remove_list_on_match>, lists<remove_values_of>},
+    {"remove_common_attrs", lists<aaa_attr_list_remove_common_attrs>, lists<remove_common>},
     {"cursor_remove", cursor_remove, nullptr},
-    {"set_producer_client_type", [](Call &c) { return aaa_attr_list_set_producer_client_type(c.list, c.client_type); },
+    {"set_client_type", [](Call &c) { return aaa_attr_list_set_producer_client_type(c.list, c.client_type); },
      [](Call &c) { return stamp(c.list, c.client_type, false); }},
-    {"init_producer_client_type",
-     [](Call &c) { return aaa_attr_list_init_producer_client_type(c.list, c.client_type); },
+    {"init_client_type", [](Call &c) { return aaa_attr_list_init_producer_client_type(c.list, c.client_type); },
      [](Call &c) { return stamp(c.list, c.client_type, true); }},
-    {"coalesce", coalesce_library, [](Call &c) { return coalesce(c.list); }},
+    {"coalesce", coalesce, nullptr},
     {"copy", [](Call &c) { return aaa_attr_list_copy(c.other, c.out()); },
      [](Call &c) { return take_place(c, c.other, copy(c.other)); }},
     {"copy_by_type", [](Call &c) { return aaa_attr_list_copy_by_type(c.other, c.list, c.given.type); },
@@ -244,7 +216,6 @@ inline constexpr Operation kOperations[] = {
     {"filter_on_type", filter_on_type, nullptr},
     {"list_eq", [](Call &c) { return Code(aaa_attr_list_eq(c.list, c.other)); },
      [](Call &c) { return Code(covers(c.list, c.other) && covers(c.other, c.list)); }},
-    {"find", find, nullptr},
     {"flat", flat, [](Call &c) { return take_place(c, c.outer, copy(c.outer)); }},
     {"tlv", [](Call &c) { return decode(tlv_buffer(c.outer), &c.made); },
      [](Call &c) { return take_place(c, c.outer, through_tlv(c.outer)); }},
@@ -252,30 +223,34 @@ inline constexpr Operation kOperations[] = {
 
 // ---- Running ----
 
-// The library's list holds what the model's does, in the same records. New sub-lists are seen here.
+// The library's list holds what the model's does, in the same records. Before, the client frees the sub-lists that it
+// was left; new ones are seen here.
 inline void compare(List &list) {
+  for (Attr &a : list.records)
+    if (a.deleted && !a.sub.empty()) aaa_attr_list_free(std::exchange(a.sub, {})[0]);
   Code code = 0;
   agree("validity", static_cast<unsigned>(is_aaa_attr_list_valid(list, &code)), 1);
   agree("records", aaa_attr_list_attr_count(list), list.records.size());
+  std::map<std::uint32_t, std::uint16_t> counts;
   Walk walk;
   aaa_cursor_alloc(list, &walk.cursor);
   for (Attr *a : live(list)) {
-    agree("type", walk.next(), a->type);
+    agree("type", aaa_cursor_get_next(walk.cursor), a->type);
     agree("client type", aaa_cursor_get_producer_client_type(walk.cursor), a->client_type);
     const aaa_attr_meta *meta = aaa_cursor_get_meta(walk.cursor);
-    agree("presence of a meta", meta != nullptr, a->meta.has_value());
-    agree("meta", !meta || std::memcmp(meta, &*a->meta, sizeof *meta) == 0, true);
+    agree("meta", meta && a->meta ? std::memcmp(meta, &*a->meta, sizeof *meta) == 0 : !meta && !a->meta, true);
     for (List &sub : a->sub) {
       if (!sub.handle) aaa_cursor_get_grouped_attr_handle(walk.cursor, &sub.handle);
       compare(sub);
     }
     std::uint32_t length = 0;
-    const void *value = aaa_cursor_get(walk.cursor, &length);
-    agree("value", holds(value, length, value_of(*a)), true);
+    const auto *value = static_cast<const std::uint8_t *>(aaa_cursor_get(walk.cursor, &length));
+    const void *found = nullptr;
+    agree("value", Bytes(value, value + length) == value_of(*a), true);
+    agree("found", aaa_attr_get_nth(list, a->type, &found, &length, counts[a->type]++) == 0 && found == value, true);
   }
-  agree("end", walk.next(), 0);
+  agree("end", aaa_cursor_get_next(walk.cursor), 0);
 }
-
 struct World {
   ~World() {
     for (List &list : lists) aaa_attr_list_free(list);
@@ -285,14 +260,13 @@ struct World {
     for (List &list : lists)  // an empty one takes the place of one that has grown large
       if (aaa_attr_list_buffer_len(list, &size) != 0 || size > 250'000)
         aaa_attr_list_free(std::exchange(list, {::List().release(), {}}));
-    Call c(lists, step);
-    const Operation &o = kOperations[c.operation < std::size(kOperations) ? c.operation : c.operation % 4];
+    Call c{lists, step};
+    const Operation &o = kOperations[step[0] % 42 < int{std::size(kOperations)} ? step[0] % 42 : step[0] % 4];
     history << "\n  " << o.name << " list " << step[1] % 3 << '/' << c.depth(step[5]) << " other " << step[2] % 3 << '/'
-            << c.depth(step[6]) << " type " << c.given.type << " length " << c.length() << " meta " << &c.meta - kMetas
+            << c.depth(step[6]) << " type " << c.type.number << " length " << c.length() << " meta " << &c.meta - kMetas
             << " client type " << c.client_type << " choice " << c.choice;
     const Code code = o.library(c);
     agree("code", code, o.model ? o.model(c) : 0);
-    for (const Handle handle : c.left) aaa_attr_list_free(handle);
     for (List &list : lists) compare(list);
   }
   std::array<List, 3> lists;
