@@ -153,6 +153,14 @@ std::string nested(const std::string &innermost, const std::string &before, cons
 }
 
 // A search in both directions at every level of the nested ones would go on for ages.
+// Groups with the texts from first to last.
+std::string groups(int first, int last) {
+  std::string text;
+  for (int i = first, step = first < last ? 1 : -1; i != last + step; i += step)
+    text += "G{T=" + std::to_string(i) + "} ";
+  return text;
+}
+
 TEST(Equality, ComparesSetsOfAttributesAndLeavesNoTrace) {
   const std::tuple<std::string, std::string, bool, std::string> rows[] = {
       {"G{T=a} G{T=b} G{T=* U=*}", "G{U=* T=*} G{T=a} G{T=b}", true, "shuffled"},
@@ -160,6 +168,8 @@ TEST(Equality, ComparesSetsOfAttributesAndLeavesNoTrace) {
       {"G{T=a} G{T=b} G{T=a}", "G{T=a} G{T=a} G{T=c}", false, "b and c"},
       {"G{T=a} U=x G{T=b}", "U=x G{T=b} G{T=b} G{T=a} G{}", false, "the empty one"},
       {"H{G{T=a} G{T=b}} H{G{T=c}}", "H{G{T=c} G{T=c}} H{G{T=b} G{T=a}}", true, "shuffled at two levels"},
+      {groups(0, 699), groups(699, 0), true, "a great many in opposite order"},
+      {groups(0, 699), groups(699, 1), false, "one of a great many"},
       {nested("", "T=x ", ""), nested("", "", " T=x"), true, "opposite order"},
       {nested("U=a", "T=x ", ""), nested("U=b", "", " T=x"), false, "opposite order, another innermost list"},
       {nested("U=a", "", ""), nested("U=b", "", ""), false, "the same order, another innermost list"},
