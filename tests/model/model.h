@@ -16,7 +16,7 @@ using Meta = std::optional<aaa_attr_meta>;
 struct List;
 struct Attr {
   std::uint32_t type = 0;
-  Bytes value;  // as the caller gives it; of a Grouped record that holds a list: nothing
+  Bytes value;  // as the caller gives it; a sub-list's handle is in sub
   Meta meta;
   std::uint32_t client_type = 0;
   std::vector<List> sub;  // of a Grouped record: the one list that it owns; if deleted: that it leaves to the client
@@ -28,8 +28,8 @@ struct List {
   std::vector<Attr> records;
 };
 
-// The types in use: every format of the dictionary, some twice. The frequent ones come first; the last two are type 0,
-// which may be added and ends every walk that reaches it, and no type at all.
+// The types in use: every format of the dictionary, some twice. The six frequent ones come first; the last two are type
+// 0, which may be added and ends every walk that reaches it, and no type at all.
 struct Type {
   std::uint32_t number, format, length = 0, other_length = 0;  // the lengths that its format is held to; 0 for any
 };
@@ -37,7 +37,7 @@ inline constexpr Type kTypes[] = {{type::kUlong, AAA_ATTR_FMT_ULONG, 4},
                                   {type::kString, AAA_ATTR_FMT_STRING},
                                   {type::kGrouped, AAA_ATTR_FMT_GROUPED, 8},
                                   {277, AAA_ATTR_FMT_STRING},
-                                  {198, AAA_ATTR_FMT_STRING},
+
                                   {type::kOtherGrouped, AAA_ATTR_FMT_GROUPED, 8},
                                   {278, AAA_ATTR_FMT_STRING},
                                   {type::kBinary, AAA_ATTR_FMT_BINARY},
@@ -98,7 +98,7 @@ inline Code add(List &list, Attr given) {
   list.records.push_back(std::move(given));
   return 0;
 }
-enum SubList { kFreed, kLeft };  // to the client
+enum SubList { kFreed, kLeft };  // what becomes of it: kLeft to the client
 inline void erase(Attr &a, SubList sub) {
   a.deleted = true;
   if (sub == kFreed) a.sub.clear();
@@ -123,9 +123,7 @@ Code replace(List &list, Attr given) {
   }
   return add(list, given);
 }
-inline Code double_dip(List &list, Attr given) {
-  return (given.type == 277 || given.type == 278 ? add : replace<2>)(list, given);
-}
+inline Code double_dip(List &list, Attr a) { return (a.type == 277 || a.type == 278 ? add : replace<2>)(list, a); }
 
 // ---- Removing ----
 
@@ -188,9 +186,8 @@ inline Code replace_and_add(List &destination, List &source) {
 }
 inline Code replace_and_add_v1(List &list1, List &list2) {
   if (&list1 != &list2) remove_types_of(list1, list2);
-  const Code code = take_over<add, true>(list2, list1);
   std::swap(list1.records, list2.records);
-  return code;
+  return take_over<add, true>(list1, list2);
 }
 inline Code merge_list(List &destination, List &source) {
   if (&destination == &source) return AAA_ATTR_ERR_BAD_ARG;

@@ -17,6 +17,8 @@ inline void agree(const char *what, std::uint64_t library, std::uint64_t model) 
 }
 // A cursor of the library.
 struct Walk {
+  explicit Walk(Handle l, const aaa_attr_meta &m = {}) { aaa_cursor_alloc_filtered(l, &cursor, m.service, m.protocol); }
+  explicit Walk(const Bytes &buffer) { aaa_cursor_alloc_from_buffer(buffer.data(), &cursor); }
   ~Walk() { aaa_cursor_free(cursor); }
   aaa_cursor *cursor = nullptr;
 };
@@ -29,7 +31,7 @@ inline constexpr std::uint32_t kClientTypes[] = {0, 1, 5, 23, 24, 127, 133};
 inline constexpr std::uint32_t kLengths[] = {0,   1,   2,   3,   4,   5,    7,     8,     9,     15,    16,    17,
                                              100, 200, 464, 480, 481, 1000, 65494, 65495, 65496, 65502, 65503, 65504};
 
-// One step. Any bytes are one, so that they can be generated and shrunk.
+// One step. Any bytes are one, so that they can be generated and shrunk; their order is that of Call's fields.
 using Step = std::array<std::uint8_t, 11>;
 
 // A list, or a sub-list further down.
@@ -60,9 +62,9 @@ struct Call {
   List &outer = lists[s[1] % 3], &other_outer = lists[s[2] % 3];  // the one that changes first
   unsigned choice = s[3] + 256u * s[4];                           // of sub-lists, attributes, types, bytes
   List &list = down(outer, depth(s[5]), choice), &other = down(other_outer, depth(s[6]), choice);
-  const aaa_attr_meta &meta = kMetas[s[7] % 11 < 7 ? s[7] % 11 : 0];
+  const aaa_attr_meta &meta = kMetas[s[7] % 11 < int{std::size(kMetas)} ? s[7] % 11 : 0];
   std::uint32_t client_type = kClientTypes[s[8] % 7];
-  const Type &type = kTypes[s[9] % 35 < 17 ? s[9] % 35 : s[9] % 6];
+  const Type &type = kTypes[s[9] % 35 < int{std::size(kTypes)} ? s[9] % 35 : s[9] % 6];
   ::List made = {};               // to be given away, or to take a list's place; else freed with the call
   std::vector<Attr> inside = {};  // what is in it
   Attr given = attribute();       // of the adding operations; of a Grouped type: without the list
@@ -99,10 +101,8 @@ inline Code remove_on_match(Call &c) {
 }
 // A filtered walk that removes the chosen attributes.
 inline Code cursor_remove(Call &c) {
-  Walk walk;
-  aaa_cursor_alloc_filtered(c.list, &walk.cursor, c.meta.service, c.meta.protocol);
-  unsigned n = 0;
-  for (Attr *a : live(c.list, c.meta)) {
+  const Walk walk(c.list, c.meta);
+  for (unsigned n = 0; Attr * a : live(c.list, c.meta)) {
     agree("type of the walk", aaa_cursor_get_next(walk.cursor), a->type);
     if (c.choice >> n++ % 16 & 1) continue;
     for (List &sub : a->sub) aaa_cursor_get_grouped_attr_handle(walk.cursor, &sub.handle);  // may lie behind a type 0
@@ -124,7 +124,7 @@ inline Code merge_list(Call &c) {
   return code;
 }
 inline Code filter_on_type(Call &c) {
-  const std::uint32_t types[] = {c.type.number, kTypes[c.choice % 16].number, kTypes[c.choice / 16 % 16].number};
+  const std::uint32_t types[] = {c.type.number, kTypes[c.choice % 15].number, kTypes[c.choice / 16 % 15].number};
   std::vector<Attr> kept;
   for (Attr *a : all(c.outer, [&](auto &b) { return std::count(types, types + 3, b.type); })) kept.push_back(*a);
   c.outer.records = kept;
@@ -140,13 +140,9 @@ inline Code flat(Call &c) {
 
   const Bytes before = buffer;
   char *bytes = reinterpret_cast<char *>(buffer.data());
-  agree("translation", aaa_attrs_buffer_tran(bytes, CDM_ENDIAN_TRAN_HTON), 0);
-  agree("other form", buffer != before, true);
-  agree("translation back", aaa_attrs_buffer_tran_v1(bytes, size, CDM_ENDIAN_TRAN_NTOH), 0);
-  agree("own form", buffer == before, true);
-
-  Walk walk;
-  aaa_cursor_alloc_from_buffer(buffer.data(), &walk.cursor);
+  agree("translation", aaa_attrs_buffer_tran(bytes, CDM_ENDIAN_TRAN_HTON) == 0 && buffer != before, true);
+  agree("and back", aaa_attrs_buffer_tran_v1(bytes, size, CDM_ENDIAN_TRAN_NTOH) == 0 && buffer == before, true);
+  const Walk walk(buffer);
   for (const Attr *a : live(c.outer)) agree("type in place", aaa_cursor_get_next(walk.cursor), a->type);
   agree("end in place", aaa_cursor_get_next(walk.cursor), 0);
   return decode(buffer, &c.made);
@@ -175,6 +171,7 @@ template <auto function>
 Code lists(Call &c) {
   return function(c.list, c.other);
 }
+
 // What the library is asked to do, and what that means. No model: the library's side has done both.
 struct Operation {
   const char *name;
@@ -231,10 +228,8 @@ inline void compare(List &list) {
   Code code = 0;
   agree("validity", static_cast<unsigned>(is_aaa_attr_list_valid(list, &code)), 1);
   agree("records", aaa_attr_list_attr_count(list), list.records.size());
-  std::map<std::uint32_t, std::uint16_t> counts;
-  Walk walk;
-  aaa_cursor_alloc(list, &walk.cursor);
-  for (Attr *a : live(list)) {
+  const Walk walk(list);
+  for (std::map<std::uint32_t, std::uint16_t> counts; Attr * a : live(list)) {
     agree("type", aaa_cursor_get_next(walk.cursor), a->type);
     agree("client type", aaa_cursor_get_producer_client_type(walk.cursor), a->client_type);
     const aaa_attr_meta *meta = aaa_cursor_get_meta(walk.cursor);
@@ -251,13 +246,13 @@ inline void compare(List &list) {
   }
   agree("end", aaa_cursor_get_next(walk.cursor), 0);
 }
+
 struct World {
   ~World() {
     for (List &list : lists) aaa_attr_list_free(list);
   }
   void run(const Step &step) {
-    std::uint32_t size = 0;
-    for (List &list : lists)  // an empty one takes the place of one that has grown large
+    for (std::uint32_t size = 0; List & list : lists)  // an empty one takes the place of one that has grown large
       if (aaa_attr_list_buffer_len(list, &size) != 0 || size > 250'000)
         aaa_attr_list_free(std::exchange(list, {::List().release(), {}}));
     Call c{lists, step};
