@@ -6,8 +6,7 @@ namespace {
 
 using namespace exercise;
 
-// The look-up finds the first value of each type as the decoded list has it, where the type is in the outer list and
-// nothing removed or nested can be found before it.
+// Looks up a spread of types; what is found has the type's format and fits the space given.
 void look_up_everything(const std::uint8_t *buffer) {
   for (std::uint32_t type = 0; type < AAA_ATTR_TYPE_COUNT; type += 37) {
     std::uint8_t value[256];

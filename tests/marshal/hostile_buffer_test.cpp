@@ -153,6 +153,13 @@ TEST(HostileFlat, BlocksThatFitNoListBlock) {
   }
 }
 
+// Where a 24-byte header has `next`, this foreign block has a record of zeros: nothing but the layout gives it away.
+TEST(HostileFlat, ForeignBlocksAreNotReadInPlace) {
+  const Bytes foreign = flat({block(kHead | kLast | kForeignHeader, 1, {record(0, "")})});
+  EXPECT_EQ(decode_soundly(foreign), 0u);
+  EXPECT_EQ(check(foreign), AAA_ATTR_ERR_BAD_BUFFER);
+}
+
 TEST(HostileTlv, DamagedCutAndFlipped) {
   const std::tuple<const char *, const char *, aaa_attr_cerrno> rows[] = {
       {"a total that does not count itself", "1=03", AAA_ATTR_ERR_BAD_LENGTH},

@@ -42,8 +42,8 @@ AAA_API aaa_attr_cerrno aaa_attr_list_tlv_buffer_len(aaa_attr_list_handle list, 
 
 /* Writes the list as a TLV buffer: live attributes only, without producer client types. *size: in, the capacity of
    buffer; out, the bytes written.
-   AAA_ATTR_ERR_BAD_FORMAT: buffer null or too small, *size is the size needed. Codes of aaa_attr_list_tlv_buffer_len,
-   *size as it was. */
+   AAA_ATTR_ERR_BAD_FORMAT: buffer null or too small, *size is the size needed; or more than 2^32 - 1 bytes, *size is 0.
+   Codes of the handles, *size as it was. */
 AAA_API aaa_attr_cerrno aaa_attr_list_tlv_to_buffer(aaa_attr_list_handle list, void *buffer, uint32_t *size);
 
 /* ---- Reading buffers ---- */
