@@ -20,7 +20,7 @@ class FlatDecoder {
       BlockView to;
       if (const aaa_attr_cerrno code = make_block(&to)) return code;
       copy_block(to);
-      Level &level = levels_[reader_.depth()];
+      Level &level = levels_[reader_.depth()].level;
       level.last = to;
       level.records = RecordScan(to);
       set_tail(level.head, to);
@@ -36,9 +36,15 @@ class FlatDecoder {
     RecordScan records;  // of the last block, up to the Grouped record that was given its sub-list
   };
 
+  // A level is written when it is entered; most buffers enter one of the many.
+  union Slot {
+    Slot() {}
+    Level level;
+  };
+
   // The block that receives what the reader stands on.
   aaa_attr_cerrno make_block(BlockView *to) {
-    Level &level = levels_[reader_.depth()];
+    Level &level = levels_[reader_.depth()].level;
     if (!reader_.starts_list()) {
       const std::size_t record_bytes = reader_.block().used() - reader_.header_size();
       *to = aaa_attr_list_add_block(BlockView(), level.last, kHeaderSize + record_bytes);
@@ -47,7 +53,7 @@ class FlatDecoder {
     List made = outer_;
     if (reader_.depth() > 0) {
       if (const aaa_attr_cerrno code = create_checked_list(owner_, &made)) return code;
-      hand_over(made.handle, levels_[reader_.depth() - 1].records);
+      hand_over(made.handle, levels_[reader_.depth() - 1].level.records);
     }
     level.head = *to = made.head;
     return 0;
@@ -76,6 +82,7 @@ class FlatDecoder {
     }
     to.set_used(static_cast<std::uint16_t>(kHeaderSize + record_bytes));
     to.set_free_bytes(static_cast<std::uint16_t>(size - to.used()));
+    if (!reader_.has_grouped()) return;
     for (RecordScan scan(to); scan.next();) forget_handle(scan.record());
   }
 
@@ -86,7 +93,7 @@ class FlatDecoder {
   FlatReader<HostForm> reader_;
   const List outer_;
   const void *owner_;
-  Level levels_[AAA_ATTR_NESTING_MAX + 1];
+  Slot levels_[AAA_ATTR_NESTING_MAX + 1];
 };
 
 }  // namespace
