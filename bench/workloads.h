@@ -295,7 +295,7 @@ class Workloads {
         const Attributes order = attributes(512);
         for (std::size_t i = 0; auto _ : state) {
           benchmark::DoNotOptimize(Subject::name_of(order[i].type));
-          i = (i + 1) % order.size();
+          if (++i == order.size()) i = 0;
         }
       });
   }
