@@ -17,7 +17,7 @@
 //   bool equal(const List &, const List &)          as sets
 //   std::uint32_t number_of(const std::string &name)
 //   const char *name_of(std::uint32_t type)
-//   std::size_t render(const List &, char *text, std::size_t size)               one line an attribute; the length
+//   std::size_t render(const List &, char *text, std::size_t size)               one line an attribute; 0: none
 //   void translate(std::byte *buffer, std::size_t size, bool there)              to network order and back
 //
 // A benchmark is named workload/N or workload/kind; the time is that of one operation on one list (of N attributes), of
