@@ -16,6 +16,7 @@
 //   void remove(List &from, const List &types)      all attributes of a type that the second list has
 //   bool equal(const List &, const List &)          as sets
 //   std::uint32_t number_of(const std::string &name)
+//   std::string spelled(const std::string &name)    a name as number_of() wants it; as it is if the subject has no such
 //   const char *name_of(std::uint32_t type)
 //   std::size_t render(const List &, char *text, std::size_t size)               one line an attribute; the length
 //   void translate(std::byte *buffer, std::size_t size, bool there)              to network order and back
@@ -278,12 +279,20 @@ class Workloads {
     });
   }
 
+  static std::string spelled(const std::string &name) {
+    if constexpr (requires { Subject::spelled(name); }) {
+      return Subject::spelled(name);
+    } else {
+      return name;
+    }
+  }
+
   static void dictionary() {
     if constexpr (requires(const std::string &s) { Subject::number_of(s); })
       add("name_to_number", [](benchmark::State &state) {
         std::vector<std::string> known;
         for (const std::string &name : names())
-          if (Subject::number_of(name) != 0) known.push_back(name);
+          if (Subject::number_of(spelled(name)) != 0) known.push_back(spelled(name));
         if (known.size() < names().size() / 2) return state.SkipWithError("knows few names");
         for (std::size_t i = 0; auto _ : state) {
           benchmark::DoNotOptimize(Subject::number_of(known[i]));
