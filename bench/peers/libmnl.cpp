@@ -188,7 +188,9 @@ class Libmnl {
   using Index = bench::TypeIndex<const nlattr *>;
 
   // Not by the bytes of the whole lists, whose padding is not written.
-  static bool same(const nlattr *a, const nlattr *b) { return std::memcmp(a, b, a->nla_len) == 0; }
+  static bool same(const nlattr *a, const nlattr *b) {
+    return a->nla_len == b->nla_len && std::memcmp(a, b, a->nla_len) == 0;
+  }
 
   static bool same_order(const void *list1, const void *list2) {
     if (message(list1)->nlmsg_len != message(list2)->nlmsg_len) return false;

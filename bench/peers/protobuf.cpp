@@ -22,7 +22,7 @@ using bench::pb::AttrList;
 
 #ifdef BENCH_PROTOBUF_ARENA
 
-constexpr char kName[] = "Protocol Buffers, arena";
+constexpr char kName[] = "Protobuf arena";
 
 class List {
  public:
@@ -36,7 +36,7 @@ class List {
 
 #else
 
-constexpr char kName[] = "Protocol Buffers";
+constexpr char kName[] = "Protobuf";
 
 class List {
  public:
