@@ -14,6 +14,9 @@
 // The header wants PCRE's for declarations not used here, and has names that are keywords of C++.
 #include <freeradius/build.h>
 #undef HAVE_PCRE
+#ifdef __clang__
+#pragma clang diagnostic ignored "-Wkeyword-macro"
+#endif
 #define new new_
 #define virtual virtual_
 #include <freeradius/libradius.h>
