@@ -67,7 +67,9 @@ class Dictionary {
     text_ = new_type(AVP_TYPE_OCTETSTRING, "UTF8String", fd_dictfct_UTF8String_dump);
   }
 
-  dict_object *new_type(dict_avp_basetype base, std::string name, decltype(dict_type_data::type_dump) dump) {
+  dict_object *new_type(dict_avp_basetype base, const std::string &type_name,
+                        decltype(dict_type_data::type_dump) dump) {
+    std::string name = type_name;
     dict_type_data data = {base, name.data(), nullptr, nullptr, dump, nullptr, nullptr};
     dict_object *made = nullptr;
     check(fd_dict_new(dictionary_, DICT_TYPE, &data, nullptr, &made));

@@ -100,7 +100,7 @@ class Radcli {
   static std::string spelled(const std::string &name) { return bench::with_underscores(name).substr(0, NAME_LENGTH); }
 
   static const char *name_of(std::uint32_t type) {
-    const DICT_ATTR *found = rc_dict_getattr(handle(), static_cast<int>(type) | kVendor << 16);
+    const DICT_ATTR *found = rc_dict_getattr(handle(), static_cast<int>(type | unsigned{kVendor} << 16));
     return found != nullptr ? found->name : nullptr;
   }
 
