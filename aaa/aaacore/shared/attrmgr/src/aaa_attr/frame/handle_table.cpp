@@ -4,6 +4,8 @@
 
 #include <attrmgr/aaa_platform.h>
 
+#include "aaa_attr/frame/handle_table.h"
+
 [[gnu::weak]] std::uint16_t id_create_new_table(std::uint32_t, std::uint32_t, const char *) { return 1; }
 
 [[gnu::weak]] std::uint64_t id_get(void *first_block, std::uint16_t) {
@@ -14,5 +16,17 @@
   if (status != nullptr) *status = 0;
   return reinterpret_cast<void *>(static_cast<std::uintptr_t>(handle));
 }
+
+namespace attrmgr {
+namespace {
+
+// The definition above, whatever the process makes of its name.
+extern "C" [[gnu::alias("id_to_ptr")]] void *own_id_to_ptr(std::uint64_t, std::uint32_t *, std::uint16_t);
+
+}  // namespace
+
+IdToPtr *const kOwnIdToPtr = own_id_to_ptr;
+
+}  // namespace attrmgr
 
 [[gnu::weak]] void id_delete(std::uint64_t, std::uint16_t) {}

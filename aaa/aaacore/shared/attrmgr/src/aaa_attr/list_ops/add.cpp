@@ -9,21 +9,26 @@ namespace {
 
 using namespace attrmgr;
 
+aaa_attr_cerrno add(aaa_attr_list_handle list, std::uint32_t type, const void *value, std::uint32_t length,
+                    const aaa_attr_meta *meta, std::uint32_t client_type) {
+  return add_attribute(list, {type, value, length, meta, client_type});
+}
+
 aaa_attr_cerrno add_sub_list(aaa_attr_list_handle parent, aaa_attr_list_handle sub_list, std::uint32_t type,
                              const aaa_attr_meta *meta) {
-  return add_attribute(parent, {type, &sub_list, kHandleSize, meta, 0});
+  return add(parent, type, &sub_list, kHandleSize, meta, 0);
 }
 
 }  // namespace
 
 aaa_attr_cerrno aaa_attr_add(aaa_attr_list_handle list, std::uint32_t type, const void *value, std::uint32_t length,
                              const aaa_attr_meta *meta) {
-  return add_attribute(list, {type, value, length, meta, 0});
+  return add(list, type, value, length, meta, 0);
 }
 
 aaa_attr_cerrno aaa_attr_add_v1(aaa_attr_list_handle list, std::uint32_t type, const void *value, std::uint32_t length,
                                 const aaa_attr_meta *meta, std::uint32_t client_type) {
-  return add_attribute(list, {type, value, length, meta, client_type});
+  return add(list, type, value, length, meta, client_type);
 }
 
 aaa_attr_cerrno aaa_attr_add_group_list(aaa_attr_list_handle parent, aaa_attr_list_handle *sub_list, std::uint32_t type,

@@ -39,31 +39,33 @@ void overwrite(RecordView found, const NewAttribute &attribute) {
   std::memmove(found.value(), attribute.value, attribute.length);
 }
 
-aaa_attr_cerrno check(aaa_attr_list_handle list, const NewAttribute &attribute, BlockView *head) {
+aaa_attr_cerrno check(aaa_attr_list_handle list, const NewAttribute &attribute, BlockView *head, NewRecord *record) {
   if (attribute.type >= AAA_ATTR_TYPE_COUNT || attribute.value == nullptr) return AAA_ATTR_ERR_NOT_FOUND;
   if (const aaa_attr_cerrno code = resolve(list, head)) return code;
   // Everything that adding would refuse later is refused here, while the list is as it was.
   if (const aaa_attr_cerrno code = check_presence(attribute)) return code;
-  return check_length(attribute);
+  *record = measure(attribute);
+  return check_length(attribute, *record);
 }
 
 }  // namespace
 
 aaa_attr_cerrno add_or_replace(aaa_attr_list_handle list, const NewAttribute &attribute, OnOtherMeta on_other_meta) {
   BlockView head;
-  if (const aaa_attr_cerrno code = check(list, attribute, &head)) return code;
+  NewRecord record;
+  if (const aaa_attr_cerrno code = check(list, attribute, &head, &record)) return code;
   RecordView found = find_first(head, attribute.type);
-  if (!found) return append_record(head, attribute);
+  if (!found) return append_record(head, attribute, record);
 
   const bool same = meta_agrees(found, attribute);
-  if (!same && on_other_meta == OnOtherMeta::kAddAlongside) return append_record(head, attribute);
+  if (!same && on_other_meta == OnOtherMeta::kAddAlongside) return append_record(head, attribute, record);
   release_sub_list(found, attribute);
   if (same && reported_length(found) == attribute.length) {
     overwrite(found, attribute);
     return 0;
   }
   found.mark_deleted();
-  return append_record(head, attribute);
+  return append_record(head, attribute, record);
 }
 
 }  // namespace attrmgr

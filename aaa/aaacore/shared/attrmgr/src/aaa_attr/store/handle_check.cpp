@@ -14,16 +14,15 @@ constexpr std::uint32_t kStatusStale = 2;
 
 }  // namespace
 
-aaa_attr_cerrno resolve(aaa_attr_list_handle list, BlockView *head) {
-  if (list == 0) return AAA_ATTR_ERR_BAD_LIST;
+Resolved look_up(aaa_attr_list_handle list) {
+  if (list == 0) return {{}, AAA_ATTR_ERR_BAD_LIST};
   std::uint32_t status = kStatusValid;
-  const BlockView block(static_cast<std::byte *>(id_to_ptr(list, &status, handle_table())));
-  if (!block || status == kStatusStale) return AAA_ATTR_ERR_STALE_HANDLE;
-  const std::uint16_t magic = block.magic();
-  if (magic == kFreedMagic) return AAA_ATTR_ERR_STALE_HANDLE;
-  if (status != kStatusValid || magic != kBlockMagic) return AAA_ATTR_ERR_BAD_LIST;
-  *head = block;
-  return 0;
+  const BlockView head(static_cast<std::byte *>(id_to_ptr(list, &status, handle_table())));
+  if (!head || status == kStatusStale) return {{}, AAA_ATTR_ERR_STALE_HANDLE};
+  const std::uint16_t magic = head.magic();
+  if (magic == kFreedMagic) return {{}, AAA_ATTR_ERR_STALE_HANDLE};
+  if (status != kStatusValid || magic != kBlockMagic) return {{}, AAA_ATTR_ERR_BAD_LIST};
+  return {head, 0};
 }
 
 aaa_attr_cerrno check_whole_list(aaa_attr_list_handle list) {

@@ -3,12 +3,38 @@
 
 #include <attrmgr/aaa_attr_types.h>
 
+#include "aaa_attr/frame/handle_table.h"
 #include "aaa_attr/store/views.h"
 
 namespace attrmgr {
 
+struct Resolved {
+  BlockView head;
+  aaa_attr_cerrno code;
+};
+
+// The head, where the handle is its address and it is sound: what nearly every call finds. Else null.
+inline BlockView head_at(aaa_attr_list_handle list) {
+  if (list == 0 || !handles_are_addresses()) return {};
+  const BlockView head(reinterpret_cast<std::byte *>(list));
+  return head.magic() == kBlockMagic ? head : BlockView();
+}
+
+// The answer of the handle table in use.
+[[nodiscard]] Resolved look_up(aaa_attr_list_handle list);
+
 // Gives 0 and the head, or AAA_ATTR_ERR_BAD_LIST or AAA_ATTR_ERR_STALE_HANDLE.
-[[nodiscard]] aaa_attr_cerrno resolve(aaa_attr_list_handle list, BlockView *head);
+[[nodiscard]] inline Resolved resolve(aaa_attr_list_handle list) {
+  const BlockView head = head_at(list);
+  return head ? Resolved{head, 0} : look_up(list);
+}
+
+// The same; *head is written on success only.
+[[nodiscard]] inline aaa_attr_cerrno resolve(aaa_attr_list_handle list, BlockView *head) {
+  const Resolved resolved = resolve(list);
+  if (resolved.code == 0) *head = resolved.head;
+  return resolved.code;
+}
 
 // resolve, and every further block carries the list magic too.
 [[nodiscard]] aaa_attr_cerrno check_whole_list(aaa_attr_list_handle list);

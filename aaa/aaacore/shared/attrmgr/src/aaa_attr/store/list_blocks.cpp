@@ -13,12 +13,6 @@ const std::uint16_t aaa_attr_chunk_size = attrmgr::kBlockSize;
 namespace attrmgr {
 namespace {
 
-// The tail hint counts in units of what malloc aligns to.
-constexpr std::intptr_t kTailUnit = 16;
-
-// The blocks are separate allocations: distances between them are those of addresses, not of pointers.
-std::intptr_t address_of(BlockView block) { return reinterpret_cast<std::intptr_t>(block.bytes()); }
-
 void write_header(BlockView block, std::size_t size, std::uint8_t flags) {
   block.set_magic(kBlockMagic);
   block.set_version(kLayoutVersion);
@@ -72,13 +66,6 @@ BlockView aaa_attr_list_add_block(BlockView head, BlockView last, std::size_t si
     set_tail(head, block);
   }
   return block;
-}
-
-BlockView last_block(BlockView head) {
-  if (!head.next()) return head;  // whatever the hint says
-  BlockView last(reinterpret_cast<std::byte *>(address_of(head) + head.reserved() * kTailUnit));
-  while (const BlockView next = last.next()) last = next;
-  return last;
 }
 
 void set_tail(BlockView head, BlockView last) {

@@ -22,11 +22,20 @@ struct List {
 // that gives none sets block count and tail itself. Null when memory is exhausted or the head counts 65,535 blocks.
 [[nodiscard]] BlockView aaa_attr_list_add_block(BlockView head, BlockView last, std::size_t size);
 
-BlockView last_block(BlockView head);
-
-// The head remembers where the last block is, as a hint in its reserved word. Everything that changes a chain calls
-// this.
+// The head remembers where the last block is, as a hint in its reserved word: the distance from the head in units of
+// what malloc aligns to. Everything that changes a chain sets it.
 void set_tail(BlockView head, BlockView last);
+
+inline constexpr std::intptr_t kTailUnit = 16;
+
+// The blocks are separate allocations: distances between them are those of addresses, not of pointers.
+inline std::intptr_t address_of(BlockView block) { return reinterpret_cast<std::intptr_t>(block.bytes()); }
+
+inline BlockView last_block(BlockView head) {
+  BlockView last(reinterpret_cast<std::byte *>(address_of(head) + head.reserved() * kTailUnit));
+  while (const BlockView next = last.next()) last = next;
+  return last;
+}
 
 // What a range-based for over a walk ends with.
 struct WalkEnd {};
