@@ -1,6 +1,7 @@
 // Lower bounds: what the same workloads take when nothing is checked, nothing is a call and everything is known. Blocks
 // of 512 bytes from malloc, records written with plain stores, bytes moved by memcpy, and the plain scan, in which a
 // record is found by adding up the lengths before it.
+#include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
@@ -39,16 +40,19 @@ Block *new_block() {
 
 std::byte *bytes_of(Block *block) { return reinterpret_cast<std::byte *>(block); }
 
+template <class T>
+T load(const std::byte *at) {
+  T value;
+  std::memcpy(&value, at, sizeof value);
+  return value;
+}
+
 // Whether a record in the block has the type.
-inline bool scan(const std::byte *block, std::uint32_t type) {
-  Block header;
-  std::memcpy(&header, block, sizeof header);
-  const std::byte *at = block + sizeof header;
-  for (unsigned left = header.records; left > 0; --left) {
-    Record record;
-    std::memcpy(&record, at, sizeof record);
-    if (record.type == type) return true;
-    at += sizeof record + record.length;
+bool scan(const std::byte *block, std::uint16_t type) {
+  const std::byte *at = block + sizeof(Block);
+  for (unsigned left = load<std::uint16_t>(block + offsetof(Block, records)); left > 0; --left) {
+    if (load<std::uint16_t>(at) == type) return true;
+    at += sizeof(Record) + load<std::uint32_t>(at + offsetof(Record, length));
   }
   return false;
 }
@@ -94,7 +98,7 @@ class Limits {
 
   static bool find(const List &list, std::uint32_t type) {
     for (Block *block = list.head; block != nullptr; block = block->next)
-      if (scan(bytes_of(block), type)) return true;
+      if (scan(bytes_of(block), static_cast<std::uint16_t>(type))) return true;
     return false;
   }
 
@@ -126,7 +130,7 @@ class Limits {
 
   static bool read(const std::byte *bytes, std::size_t size, std::uint32_t type) {
     for (std::size_t done = 0; done < size;) {
-      if (scan(bytes + done, type)) return true;
+      if (scan(bytes + done, static_cast<std::uint16_t>(type))) return true;
       Block header;
       std::memcpy(&header, bytes + done, sizeof header);
       done += header.used;

@@ -49,7 +49,7 @@ aaa_attr_cerrno aaa_attr_find_attr_type_number(aaa_attr_list_handle list, std::u
   BlockView head;
   if (const aaa_attr_cerrno code = resolve(list, &head)) return code;
   std::uint32_t found = 0;
-  for (const RecordView record : Attributes(head)) found += record.type() == type;
+  for ([[maybe_unused]] const RecordView record : RecordsOfType(head, type)) ++found;
   *count = static_cast<std::uint16_t>(found);
   return 0;
 }

@@ -38,8 +38,8 @@ aaa_attr_cerrno open_pair_with_types(aaa_attr_list_handle list, aaa_attr_list_ha
 }
 
 bool holds_equal(BlockView head, RecordView wanted) {
-  for (const RecordView record : Attributes(head))
-    if (record.type() == wanted.type() && same_value(record, wanted)) return true;
+  for (const RecordView record : RecordsOfType(head, wanted.type()))
+    if (same_value(record, wanted)) return true;
   return false;
 }
 
@@ -69,8 +69,7 @@ using namespace attrmgr;
 aaa_attr_cerrno aaa_attr_remove(aaa_attr_list_handle list, std::uint32_t type) {
   BlockView head;
   if (const aaa_attr_cerrno code = resolve(list, &head)) return code;
-  for (const RecordView record : Attributes(head))
-    if (record.type() == type) remove_with_sub_list(record);
+  for (const RecordView record : RecordsOfType(head, type)) remove_with_sub_list(record);
   return 0;
 }
 
@@ -79,8 +78,8 @@ aaa_attr_cerrno aaa_attr_remove_on_match(aaa_attr_list_handle list, std::uint32_
   if (value == nullptr && length != 0) return AAA_ATTR_ERR_BAD_ARG;
   BlockView head;
   if (const aaa_attr_cerrno code = resolve(list, &head)) return code;
-  for (RecordView record : Attributes(head))
-    if (record.type() == type && holds_value(record, value, length)) record.mark_deleted();
+  for (RecordView record : RecordsOfType(head, type))
+    if (holds_value(record, value, length)) record.mark_deleted();
   return 0;
 }
 

@@ -56,6 +56,8 @@ inline constexpr std::size_t kRecordFlagsAt = 2;
 inline constexpr std::size_t kRecordLengthAt = 4;
 inline constexpr std::size_t kRecordHeaderSize = 8;
 
+inline constexpr std::uint32_t kRecordTypeMax = 0xFFFF;
+
 // Record flags.
 inline constexpr std::uint16_t kRecordHasMeta = 0x0001;
 inline constexpr std::uint16_t kRecordDeleted = 0x0002;

@@ -12,6 +12,7 @@
 #include "aaa_attr/store/handle_check.h"
 #include "aaa_attr/store/list_blocks.h"
 #include "aaa_attr/store/views.h"
+#include "aaa_attr/walk/type_search.h"
 #include "dictionary/format_rules.h"
 #include "dictionary/type_table.h"
 
@@ -71,6 +72,7 @@ inline aaa_attr_cerrno write_record(BlockView block, const NewAttribute &attribu
   block.set_free_bytes(static_cast<std::uint16_t>(block.free_bytes() - measured.size));
   block.set_record_count(static_cast<std::uint16_t>(block.record_count() + 1));
   if (measured.format == AAA_ATTR_FMT_GROUPED) block.add_flags(kBlockHoldsGrouped);
+  if (attribute.type == 0) note_type_zero();
 
   std::byte *const at = block.bytes() + used;
   RecordView record(at);

@@ -1,0 +1,81 @@
+#include "aaa_attr/walk/type_search.h"
+
+#include <atomic>
+#include <cstring>
+
+namespace attrmgr {
+namespace {
+
+// Lengths and small numbers have the two bytes of a low type all over a block, and few records are walked as soon as
+// searched.
+constexpr std::uint16_t kLowestSearchedType = 128;
+constexpr std::uint16_t kFewRecords = 8;
+
+std::atomic<bool> type_zero_seen{false};
+
+using Bytes [[gnu::vector_size(32)]] = std::uint8_t;
+using Words [[gnu::vector_size(32)]] = std::uint64_t;
+
+// The two bytes of a type as they lie in a record, each at every place of a vector.
+struct Pair {
+  Bytes first;
+  Bytes second;
+};
+
+[[gnu::always_inline]] inline void fill(std::uint8_t byte, Bytes *places) {
+  constexpr std::uint64_t kEveryByte = 0x0101010101010101;
+  const std::uint64_t word = byte * kEveryByte;
+  *places = reinterpret_cast<Bytes>(Words{word, word, word, word});
+}
+
+// Adds to *found where, among the places of a vector, the pair stands.
+[[gnu::always_inline]] inline void look(const std::byte *at, const Pair &pair, Words *found) {
+  Bytes here;
+  Bytes behind;
+  std::memcpy(&here, at, sizeof here);
+  std::memcpy(&behind, at + 1, sizeof behind);
+  *found |= reinterpret_cast<Words>((here == pair.first) & (behind == pair.second));
+}
+
+// Whether the pair stands anywhere among the block's records. What is left of the last vector is looked at twice.
+[[gnu::always_inline]] inline bool holds(BlockView block, const Pair &pair) {
+  const std::size_t places = static_cast<std::size_t>(block.end() - block.records()) - 1;
+  Words found{};
+  for (std::size_t i = 0; i + sizeof(Bytes) < places; i += sizeof(Bytes)) look(block.records() + i, pair, &found);
+  look(block.end() - 1 - sizeof(Bytes), pair, &found);
+  return (found[0] | found[1] | found[2] | found[3]) != 0;
+}
+
+[[gnu::always_inline]] inline BlockView pass_over(BlockView block, std::uint16_t type) {
+  std::uint8_t bytes[sizeof type];
+  std::memcpy(bytes, &type, sizeof bytes);
+  Pair pair;
+  fill(bytes[0], &pair.first);
+  fill(bytes[1], &pair.second);
+  while (block && block.record_count() >= kFewRecords && !holds(block, pair)) block = block.next();
+  return block;
+}
+
+#if defined(__x86_64__)
+[[gnu::target("avx2")]] BlockView pass_over_avx2(BlockView block, std::uint16_t type) { return pass_over(block, type); }
+
+BlockView pass_over_fast(BlockView block, std::uint16_t type) {
+  return __builtin_cpu_supports("avx2") ? pass_over_avx2(block, type) : pass_over(block, type);
+}
+#else
+BlockView pass_over_fast(BlockView block, std::uint16_t type) { return pass_over(block, type); }
+#endif
+
+// The search looks at whole vectors.
+static_assert(kFewRecords * kRecordHeaderSize > sizeof(Bytes));
+
+}  // namespace
+
+void note_type_zero() { type_zero_seen.store(true, std::memory_order_relaxed); }
+
+BlockView next_to_walk(BlockView block, std::uint16_t type) {
+  if (type < kLowestSearchedType || type_zero_seen.load(std::memory_order_relaxed)) return block;
+  return pass_over_fast(block, type);
+}
+
+}  // namespace attrmgr

@@ -1,0 +1,67 @@
+// The records of one type in a list:
+//
+//   for (RecordView record : RecordsOfType(head, type))   those of Attributes(head) that have the type
+//
+// Blocks behind the first are not walked before a vector search has found the two bytes of the type somewhere in them.
+#pragma once
+
+#include "aaa_attr/walk/list_walk.h"
+
+namespace attrmgr {
+
+// The block or, from it on, the next one in which the walk might find a record of the type, or end at one of type 0.
+// Null when there is none.
+BlockView next_to_walk(BlockView block, std::uint16_t type);
+
+// Whoever puts a record of type 0 into a list says so. It never happens in earnest; until it does, nothing ends a walk
+// early and blocks may be passed over.
+void note_type_zero();
+
+class RecordsOfType {
+ public:
+  class Iterator {
+   public:
+    Iterator(BlockView first, std::uint16_t type) : type_(type) {
+      if (enter(first)) ++*this;
+    }
+    RecordView operator*() const { return record_; }  // null at the end
+    bool operator!=(WalkEnd) const { return static_cast<bool>(record_); }
+
+    Iterator &operator++() {
+      do {
+        while (scan_.next_of(type_)) {
+          record_ = scan_.record();
+          if (record_.deleted()) continue;
+          if (record_.type() == 0) record_ = {};
+          return *this;
+        }
+      } while (enter(block_.next()));
+      record_ = {};
+      return *this;
+    }
+
+   private:
+    bool enter(BlockView block) {
+      block_ = block ? next_to_walk(block, type_) : block;
+      if (block_) scan_ = RecordScan(block_);
+      return static_cast<bool>(block_);
+    }
+
+    std::uint16_t type_;
+    BlockView block_;
+    RecordScan scan_;
+    RecordView record_;
+  };
+
+  // Records have 16 bits for the type. A wider number, like 0, is found nowhere.
+  RecordsOfType(BlockView first, std::uint32_t type)
+      : first_(first), type_(type <= kRecordTypeMax ? static_cast<std::uint16_t>(type) : std::uint16_t{0}) {}
+  Iterator begin() const { return Iterator(first_, type_); }
+  WalkEnd end() const { return {}; }
+
+ private:
+  BlockView first_;
+  std::uint16_t type_;
+};
+
+}  // namespace attrmgr
