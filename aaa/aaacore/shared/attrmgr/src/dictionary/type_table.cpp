@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <string_view>
 
+#include "dictionary/format_rules.h"
 #include "dictionary/name_index.h"
 
 namespace attrmgr {
@@ -75,9 +76,19 @@ constexpr std::array<std::uint8_t, AAA_ATTR_TYPE_COUNT> formats() {
   return column;
 }
 
+constexpr std::array<Promise, AAA_ATTR_TYPE_COUNT> promises() {
+  std::array<Promise, AAA_ATTR_TYPE_COUNT> column{};
+  for (std::size_t i = 0; i < column.size(); ++i) {
+    if (kFormatRules.nul(kTypes[i].format) != 0) column[i] = kPromisesNul;
+    if (kTypes[i].format == AAA_ATTR_FMT_GROUPED) column[i] = kPromisesSubList;
+  }
+  return column;
+}
+
 }  // namespace
 
 constexpr std::array<std::uint8_t, AAA_ATTR_TYPE_COUNT> kFormats = formats();
+constexpr std::array<Promise, AAA_ATTR_TYPE_COUNT> kPromises = promises();
 constexpr NameIndex kNameIndex(kTypes);
 
 }  // namespace attrmgr

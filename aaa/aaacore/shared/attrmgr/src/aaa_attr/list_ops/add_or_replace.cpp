@@ -50,22 +50,26 @@ aaa_attr_cerrno check(aaa_attr_list_handle list, const NewAttribute &attribute, 
 
 }  // namespace
 
-aaa_attr_cerrno add_or_replace(aaa_attr_list_handle list, const NewAttribute &attribute, OnOtherMeta on_other_meta) {
+aaa_attr_cerrno add_or_replace(aaa_attr_list_handle list, const NewAttribute &attribute, OnOtherMeta on_other_meta,
+                               TypeIndex *index) {
   BlockView head;
   NewRecord record;
   if (const aaa_attr_cerrno code = check(list, attribute, &head, &record)) return code;
-  RecordView found = find_first(head, attribute.type);
-  if (!found) return append_record(head, attribute, record);
-
-  const bool same = meta_agrees(found, attribute);
-  if (!same && on_other_meta == OnOtherMeta::kAddAlongside) return append_record(head, attribute, record);
-  release_sub_list(found, attribute);
-  if (same && reported_length(found) == attribute.length) {
-    overwrite(found, attribute);
-    return 0;
+  const auto type = static_cast<std::uint16_t>(attribute.type);
+  RecordView found = index != nullptr ? index->first(type) : find_first(head, type);
+  if (found) {
+    const bool same = meta_agrees(found, attribute);
+    const bool superseded = same || on_other_meta == OnOtherMeta::kSupersede;
+    if (superseded) release_sub_list(found, attribute);
+    if (same && reported_length(found) == attribute.length) {
+      overwrite(found, attribute);
+      return 0;
+    }
+    if (superseded) found.mark_deleted();
   }
-  found.mark_deleted();
-  return append_record(head, attribute, record);
+  const aaa_attr_cerrno code = append_record(head, attribute, record);
+  if (code == 0 && index != nullptr) index->appended(static_cast<std::size_t>(record.size));
+  return code;
 }
 
 }  // namespace attrmgr

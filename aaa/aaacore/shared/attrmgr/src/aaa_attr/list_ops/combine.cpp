@@ -22,52 +22,100 @@ using namespace attrmgr;
 
 enum class Write { kNot, kAppend, kReplace };
 
-// What a combination does with a source record of a type, and whether it keeps the record's producer client type.
-Write append_all(std::uint32_t) { return Write::kAppend; }
-Write replace_all(std::uint32_t) { return Write::kReplace; }
+// What a combination does with a source record of a type.
+struct AppendAll {
+  static constexpr bool kReplaces = false;
+  Write operator()(std::uint32_t) const { return Write::kAppend; }
+};
+
+struct ReplaceAll {
+  static constexpr bool kReplaces = true;
+  Write operator()(std::uint32_t) const { return Write::kReplace; }
+};
+
+struct AppendType {
+  static constexpr bool kReplaces = false;
+  std::uint32_t type;
+  Write operator()(std::uint32_t found) const { return found == type ? Write::kAppend : Write::kNot; }
+};
 
 // QoS policies accumulate, everything else replaces.
-Write double_dip(std::uint32_t type) {
-  constexpr std::uint32_t kQosPolicyIn = 277;
-  constexpr std::uint32_t kQosPolicyOut = 278;
-  return type == kQosPolicyIn || type == kQosPolicyOut ? Write::kAppend : Write::kReplace;
-}
+struct DoubleDip {
+  static constexpr bool kReplaces = true;
+  Write operator()(std::uint32_t type) const {
+    constexpr std::uint32_t kQosPolicyIn = 277;
+    constexpr std::uint32_t kQosPolicyOut = 278;
+    return type == kQosPolicyIn || type == kQosPolicyOut ? Write::kAppend : Write::kReplace;
+  }
+};
 
+// Whether a record's producer client type comes along.
 enum class ClientType { kKeep, kDrop };
 
-aaa_attr_cerrno write_attribute(aaa_attr_list_handle destination, const NewAttribute &attribute, Write write) {
-  return write == Write::kAppend ? add_attribute(destination, attribute)
-                                 : add_or_replace(destination, attribute, OnOtherMeta::kSupersede);
+// A combination of two lists under way.
+struct Combination {
+  aaa_attr_list_handle destination;
+  ClientType client_type;
+  const void *owner;
+  TypeIndex *index;  // of the destination; null where that does not pay
+};
+
+aaa_attr_cerrno write_attribute(const Combination &combination, const NewAttribute &attribute, Write write) {
+  if (write == Write::kAppend) return add_attribute(combination.destination, attribute);
+  return add_or_replace(combination.destination, attribute, OnOtherMeta::kSupersede, combination.index);
 }
 
 // The step under every combination. A sub-list that was copied in vain is released.
-aaa_attr_cerrno take_over(aaa_attr_list_handle destination, RecordView record, Write write, ClientType client_type,
-                          const void *owner) {
+aaa_attr_cerrno take_over(const Combination &combination, RecordView record, Write write) {
   NewAttribute attribute = attribute_of(record);
-  if (client_type == ClientType::kDrop) attribute.client_type = 0;
-  if (format_of(attribute.type) != AAA_ATTR_FMT_GROUPED) return write_attribute(destination, attribute, write);
+  if (combination.client_type == ClientType::kDrop) attribute.client_type = 0;
+  if (format_of(attribute.type) != AAA_ATTR_FMT_GROUPED) return write_attribute(combination, attribute, write);
 
   aaa_attr_list_handle sub_copy;
-  if (const auto code = copy_list(load<aaa_attr_list_handle>(record.value()), owner, &sub_copy)) return code;
+  if (const auto code = copy_list(load<aaa_attr_list_handle>(record.value()), combination.owner, &sub_copy))
+    return code;
   attribute.value = &sub_copy;
-  const aaa_attr_cerrno code = write_attribute(destination, attribute, write);
+  const aaa_attr_cerrno code = write_attribute(combination, attribute, write);
   if (code != 0) release_list(sub_copy);
   return code;
 }
 
 template <class WriteFor>
-aaa_attr_cerrno take_over_all(aaa_attr_list_handle destination, aaa_attr_list_handle source, WriteFor write_for,
-                              ClientType client_type, const void *owner) {
-  BlockView from;
-  if (destination == 0 || source == 0) return AAA_ATTR_ERR_BAD_ARG;
-  if (const aaa_attr_cerrno code = resolve(source, &from)) return code;
-  if (destination == source) return AAA_ATTR_ERR_BAD_ARG;
+aaa_attr_cerrno take_over_each(const Combination &combination, BlockView from, WriteFor write_for) {
   for (const RecordView record : Attributes(from)) {
     const Write write = write_for(record.type());
     if (write == Write::kNot) continue;
-    if (const aaa_attr_cerrno code = take_over(destination, record, write, client_type, owner)) return code;
+    if (const aaa_attr_cerrno code = take_over(combination, record, write)) return code;
   }
   return 0;
+}
+
+template <class WriteFor>
+[[gnu::noinline]] aaa_attr_cerrno take_over_each_by_index(Combination combination, BlockView to, BlockView from,
+                                                          WriteFor write_for) {
+  TypeIndex index(to, from);
+  combination.index = &index;
+  return take_over_each(combination, from, write_for);
+}
+
+// A search for each of few records is done before an index is made.
+bool has_few_records(BlockView list) {
+  constexpr std::uint16_t kFewRecords = 4;
+  return !list.next() && list.record_count() <= kFewRecords;
+}
+
+template <class WriteFor>
+aaa_attr_cerrno take_over_all(aaa_attr_list_handle destination, aaa_attr_list_handle source, WriteFor write_for,
+                              ClientType client_type, const void *owner) {
+  if (destination == 0 || source == 0) return AAA_ATTR_ERR_BAD_ARG;
+  BlockView from;
+  if (const aaa_attr_cerrno code = resolve(source, &from)) return code;
+  if (destination == source) return AAA_ATTR_ERR_BAD_ARG;
+  const Combination combination{destination, client_type, owner, nullptr};
+  BlockView to;
+  if (WriteFor::kReplaces && !has_few_records(from) && resolve(destination, &to) == 0)
+    return take_over_each_by_index(combination, to, from, write_for);
+  return take_over_each(combination, from, write_for);
 }
 
 // The first half of both replace-and-add forms.
@@ -82,32 +130,31 @@ aaa_attr_cerrno remove_replaced(aaa_attr_list_handle destination, aaa_attr_list_
 }  // namespace
 
 aaa_attr_cerrno aaa_attr_list_append_list(aaa_attr_list_handle destination, aaa_attr_list_handle source) {
-  return take_over_all(destination, source, append_all, ClientType::kKeep, ATTRMGR_CALLER);
+  return take_over_all(destination, source, AppendAll{}, ClientType::kKeep, ATTRMGR_CALLER);
 }
 
 aaa_attr_cerrno aaa_attr_list_merge_with_replace(aaa_attr_list_handle destination, aaa_attr_list_handle source) {
-  return take_over_all(destination, source, replace_all, ClientType::kKeep, ATTRMGR_CALLER);
+  return take_over_all(destination, source, ReplaceAll{}, ClientType::kKeep, ATTRMGR_CALLER);
 }
 
 aaa_attr_cerrno aaa_attr_list_copy_by_type(aaa_attr_list_handle source, aaa_attr_list_handle destination,
                                            std::uint32_t type) {
-  const auto of_that_type = [type](std::uint32_t found) { return found == type ? Write::kAppend : Write::kNot; };
-  return take_over_all(destination, source, of_that_type, ClientType::kDrop, ATTRMGR_CALLER);
+  return take_over_all(destination, source, AppendType{type}, ClientType::kDrop, ATTRMGR_CALLER);
 }
 
 aaa_attr_cerrno aaa_attr_list_merge_double_dip(aaa_attr_list_handle destination, aaa_attr_list_handle source) {
-  return take_over_all(destination, source, double_dip, ClientType::kDrop, ATTRMGR_CALLER);
+  return take_over_all(destination, source, DoubleDip{}, ClientType::kDrop, ATTRMGR_CALLER);
 }
 
 aaa_attr_cerrno aaa_attr_list_replace_and_add(aaa_attr_list_handle destination, aaa_attr_list_handle source) {
   if (const aaa_attr_cerrno code = remove_replaced(destination, source)) return code;
-  return take_over_all(destination, source, append_all, ClientType::kDrop, ATTRMGR_CALLER);
+  return take_over_all(destination, source, AppendAll{}, ClientType::kDrop, ATTRMGR_CALLER);
 }
 
 aaa_attr_cerrno aaa_attr_list_replace_and_add_v1(aaa_attr_list_handle *list1, aaa_attr_list_handle *list2) {
   if (list1 == nullptr || list2 == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   if (const aaa_attr_cerrno code = remove_replaced(*list1, *list2)) return code;
-  if (const auto code = take_over_all(*list2, *list1, append_all, ClientType::kKeep, ATTRMGR_CALLER)) return code;
+  if (const auto code = take_over_all(*list2, *list1, AppendAll{}, ClientType::kKeep, ATTRMGR_CALLER)) return code;
   std::swap(*list1, *list2);
   return 0;
 }

@@ -18,19 +18,23 @@ namespace {
 
 aaa_attr_cerrno copy_block(BlockView from, BlockView to) {
   const std::size_t size = to.size();
-  if (from.version() != to.version() || from.used() > size) return AAA_ATTR_ERR_BAD_LIST;
-  std::memcpy(to.bytes(), from.bytes(), from.used());
-  to.set_free_bytes(static_cast<std::uint16_t>(size - from.used()));
+  const std::size_t used = from.used();
+  if (from.version() != to.version() || used > size) return AAA_ATTR_ERR_BAD_LIST;
+  std::memcpy(to.bytes(), from.bytes(), used);
+  to.set_free_bytes(static_cast<std::uint16_t>(size - used));
   to.set_reserved(0);
   to.set_next(BlockView());
   return 0;
 }
 
-aaa_attr_cerrno copy_blocks(BlockView source, BlockView copy) {
+// Copies what belongs to the source alone. *flags: those of all blocks together.
+aaa_attr_cerrno copy_blocks(BlockView source, BlockView copy, std::uint8_t *flags) {
   BlockView from = source;
   BlockView to = copy;
   aaa_attr_cerrno code = copy_block(from, to);
+  *flags = from.flags();
   while (code == 0 && (from = from.next())) {
+    *flags |= from.flags();
     to = aaa_attr_list_add_block(BlockView(), to, from.used());
     code = to ? copy_block(from, to) : AAA_ATTR_ERR_NO_MEMORY;
   }
@@ -38,15 +42,21 @@ aaa_attr_cerrno copy_blocks(BlockView source, BlockView copy) {
   return code;
 }
 
-// After a failure the handles that were copied with the blocks become 0, so that releasing the copy leaves the source's
-// sub-lists alone.
-aaa_attr_cerrno copy_sub_lists(BlockView copy, const void *owner, aaa_attr_cerrno code) {
-  for (const RecordView record : LiveRecords(copy)) {
+// Gives the Grouped records of a block copies of their sub-lists. After a failure the handles that were copied with the
+// blocks become 0, so that releasing the copy leaves the source's sub-lists alone.
+aaa_attr_cerrno copy_sub_lists(BlockView block, const void *owner, aaa_attr_cerrno code) {
+  for (const RecordView record : BlockRecords(block)) {
     if (format_of(record.type()) != AAA_ATTR_FMT_GROUPED || record.length() != kHandleSize) continue;
     aaa_attr_list_handle sub_copy = 0;
     if (code == 0) code = copy_list(load<aaa_attr_list_handle>(record.value()), owner, &sub_copy);
     store(record.value(), sub_copy);
   }
+  return code;
+}
+
+aaa_attr_cerrno copy_all_sub_lists(BlockView copy, const void *owner, aaa_attr_cerrno code) {
+  for (const BlockView block : Blocks(copy))
+    if (block.has(kBlockHoldsGrouped)) code = copy_sub_lists(block, owner, code);
   return code;
 }
 
@@ -57,7 +67,9 @@ aaa_attr_cerrno copy_list(aaa_attr_list_handle source, const void *owner, aaa_at
   if (const aaa_attr_cerrno code = resolve(source, &from)) return code;
   List made;
   if (const aaa_attr_cerrno code = create_checked_list(owner, &made)) return code;
-  const aaa_attr_cerrno code = copy_sub_lists(made.head, owner, copy_blocks(from, made.head));
+  std::uint8_t flags;
+  aaa_attr_cerrno code = copy_blocks(from, made.head, &flags);
+  if ((flags & kBlockHoldsGrouped) != 0) code = copy_all_sub_lists(made.head, owner, code);
   if (code != 0) {
     release_list(made.handle);
     return code;

@@ -1,5 +1,6 @@
 // Equality of lists as sets: every attribute of each has a match in the other. Lists that hold the same in the same
-// order are equal after one pass over both; only what is behind the first difference is searched for.
+// order are equal after one pass over both, block by block if even the bytes are the same; only what is behind the first
+// difference is searched for.
 //
 // Sub-lists are compared by content, which is dear: two of them are compared once, for both directions together.
 // Without that, every level of nesting would double the work.
@@ -10,6 +11,7 @@
 #include <attrmgr/aaa_attr_dict.h>
 
 #include "aaa_attr/list_ops/match.h"
+#include "aaa_attr/list_ops/type_index.h"
 #include "aaa_attr/store/handle_check.h"
 #include "aaa_attr/walk/list_walk.h"
 
@@ -33,18 +35,39 @@ bool matches(RecordView a, RecordView b) {
   return same_value(a, b) && same_meta(a, b);
 }
 
+// Whether the lists have the same records, byte by byte and block by block. Sub-lists say nothing by their handles.
+bool same_bytes(BlockView block1, BlockView block2) {
+  while (block1 && block2) {
+    if (block1.has(kBlockHoldsGrouped) || block1.used() != block2.used()) return false;
+    if (block1.record_count() != block2.record_count()) return false;
+    if (std::memcmp(block1.records(), block2.records(), block1.used() - kHeaderSize) != 0) return false;
+    block1 = block1.next();
+    block2 = block2.next();
+  }
+  return !block1 && !block2;
+}
+
 using Position = Attributes::Iterator;  // at a null record behind the last
 
-bool has_match(RecordView wanted, BlockView list) {
-  for (const RecordView record : Attributes(list))
-    if (matches(wanted, record)) return true;
+bool has_match(RecordView wanted, RecordsOfType::Iterator candidate) {
+  for (; *candidate; ++candidate)
+    if (matches(wanted, *candidate)) return true;
   return false;
 }
 
-// From the position on, every record, but the Grouped ones where they are looked at elsewhere, has a match in the list.
-bool all_have_match(Position from, BlockView list, bool grouped_too) {
+// From the position on, every record that holds a value has a match in the list. Not in line: its index is not to lie
+// on the stack while sub-lists are compared.
+[[gnu::noinline]] bool values_have_match(Position from, BlockView own, BlockView list) {
+  const TypeIndex index(list, own);
   for (; *from; ++from)
-    if ((grouped_too || !is_grouped(*from)) && !has_match(*from, list)) return false;
+    if (!is_grouped(*from) && !has_match(*from, index.records((*from).type()))) return false;
+  return true;
+}
+
+// The same of records that own sub-lists.
+bool grouped_have_match(Position from, BlockView list) {
+  for (; *from; ++from)
+    if (is_grouped(*from) && !has_match(*from, RecordsOfType(list, (*from).type()).begin())) return false;
   return true;
 }
 
@@ -114,8 +137,7 @@ bool grouped_match(const Difference &difference) {
   const std::size_t num_grouped = count_grouped(difference.list2);
   Marks marks(num_grouped);
   if (!marks.available())
-    return all_have_match(difference.at1, difference.list2, true) &&
-           all_have_match(difference.at2, difference.list1, true);
+    return grouped_have_match(difference.at1, difference.list2) && grouped_have_match(difference.at2, difference.list1);
   std::size_t number = 0;
   for (Position at(difference.list2); *at && *at != *difference.at2; ++at)
     if (is_grouped(*at)) marks.mark(number++);
@@ -136,6 +158,7 @@ bool lists_equal(aaa_attr_list_handle handle1, aaa_attr_list_handle handle2) {
   BlockView list2;
   if (resolve(handle1, &list1) != 0 || resolve(handle2, &list2) != 0) return false;
 
+  if (same_bytes(list1, list2)) return true;
   Position at1(list1);
   Position at2(list2);
   while (*at1 && *at2 && matches(*at1, *at2)) {
@@ -143,7 +166,7 @@ bool lists_equal(aaa_attr_list_handle handle1, aaa_attr_list_handle handle2) {
     ++at2;
   }
   if (!*at1 && !*at2) return true;
-  return all_have_match(at1, list2, false) && all_have_match(at2, list1, false) &&
+  return values_have_match(at1, list1, list2) && values_have_match(at2, list2, list1) &&
          grouped_match({list1, list2, at1, at2});
 }
 

@@ -12,6 +12,11 @@ inline bool holds_value(RecordView record, const void *value, std::uint32_t leng
 }
 
 // For records of one type.
-inline bool same_value(RecordView a, RecordView b) { return holds_value(a, b.value(), reported_length(b)); }
+inline bool same_value(RecordView a, RecordView b) {
+  constexpr std::uint32_t kUsualLength = 4;
+  if (a.length() == kUsualLength && b.length() == kUsualLength)
+    return load<std::uint32_t>(a.value()) == load<std::uint32_t>(b.value());
+  return holds_value(a, b.value(), reported_length(b));
+}
 
 }  // namespace attrmgr

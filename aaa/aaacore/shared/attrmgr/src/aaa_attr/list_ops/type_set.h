@@ -1,7 +1,8 @@
 // A set of attribute types: a bit for each type of the dictionary. Other numbers, which only a buffer can bring into a
-// list, have no bit; the set says that it holds some, and its maker looks closer.
+// list, share one; where it is set, the set's maker looks closer.
 #pragma once
 
+#include <algorithm>
 #include <bitset>
 #include <cstdint>
 
@@ -11,20 +12,16 @@ namespace attrmgr {
 
 class TypeSet {
  public:
-  void insert(std::uint32_t type) {
-    if (type < AAA_ATTR_TYPE_COUNT) {
-      types_[type] = true;
-    } else {
-      others_ = true;
-    }
-  }
+  void insert(std::uint32_t type) { types_[bit_of(type)] = true; }
 
   // Whether the type is in the set; for a number outside the dictionary, whether it may be.
-  bool may_contain(std::uint32_t type) const { return type < AAA_ATTR_TYPE_COUNT ? types_[type] : others_; }
+  bool may_contain(std::uint32_t type) const { return types_[bit_of(type)]; }
 
  private:
-  std::bitset<AAA_ATTR_TYPE_COUNT> types_;
-  bool others_ = false;
+  // The last bit is that of all other numbers.
+  static std::uint32_t bit_of(std::uint32_t type) { return std::min<std::uint32_t>(type, AAA_ATTR_TYPE_COUNT); }
+
+  std::bitset<AAA_ATTR_TYPE_COUNT + 1> types_;
 };
 
 }  // namespace attrmgr

@@ -4,6 +4,7 @@
 
 #include <attrmgr/aaa_attr_dict.h>
 
+#include "aaa_attr/store/unwritten.h"
 #include "aaa_attr/walk/flat_reader.h"
 #include "dictionary/type_table.h"
 
@@ -20,7 +21,7 @@ class FlatDecoder {
       BlockView to;
       if (const aaa_attr_cerrno code = make_block(&to)) return code;
       copy_block(to);
-      Level &level = levels_[reader_.depth()];
+      Level &level = levels_[reader_.depth()].value;
       level.last = to;
       level.records = RecordScan(to);
       set_tail(level.head, to);
@@ -38,7 +39,7 @@ class FlatDecoder {
 
   // The block that receives what the reader stands on.
   aaa_attr_cerrno make_block(BlockView *to) {
-    Level &level = levels_[reader_.depth()];
+    Level &level = levels_[reader_.depth()].value;
     if (!reader_.starts_list()) {
       const std::size_t record_bytes = reader_.block().used() - reader_.header_size();
       *to = aaa_attr_list_add_block(BlockView(), level.last, kHeaderSize + record_bytes);
@@ -47,7 +48,7 @@ class FlatDecoder {
     List made = outer_;
     if (reader_.depth() > 0) {
       if (const aaa_attr_cerrno code = create_checked_list(owner_, &made)) return code;
-      hand_over(made.handle, levels_[reader_.depth() - 1].records);
+      hand_over(made.handle, levels_[reader_.depth() - 1].value.records);
     }
     level.head = *to = made.head;
     return 0;
@@ -76,6 +77,7 @@ class FlatDecoder {
     }
     to.set_used(static_cast<std::uint16_t>(kHeaderSize + record_bytes));
     to.set_free_bytes(static_cast<std::uint16_t>(size - to.used()));
+    if (!reader_.has_grouped()) return;
     for (RecordScan scan(to); scan.next();) forget_handle(scan.record());
   }
 
@@ -86,7 +88,7 @@ class FlatDecoder {
   FlatReader<HostForm> reader_;
   const List outer_;
   const void *owner_;
-  Level levels_[AAA_ATTR_NESTING_MAX + 1];
+  Unwritten<Level> levels_[AAA_ATTR_NESTING_MAX + 1];
 };
 
 }  // namespace

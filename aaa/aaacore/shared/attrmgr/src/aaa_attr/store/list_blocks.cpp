@@ -13,7 +13,7 @@ const std::uint16_t aaa_attr_chunk_size = attrmgr::kBlockSize;
 namespace attrmgr {
 namespace {
 
-void write_header(BlockView block, std::size_t size, std::uint8_t flags) {
+inline void write_header(BlockView block, std::size_t size, std::uint8_t flags) {
   block.set_magic(kBlockMagic);
   block.set_version(kLayoutVersion);
   block.set_flags(flags);

@@ -3,28 +3,10 @@
 #include <attrmgr/aaa_attr_dict.h>
 
 #include "aaa_attr/store/network_form.h"
+#include "dictionary/format_rules.h"
 #include "dictionary/type_table.h"
 
 namespace attrmgr {
-namespace {
-
-// What a decoded list promises its readers of a live value: a String ends in NUL, a Grouped value has the size of a
-// handle and its block says that it is there.
-template <class Form>
-bool keeps_promises(BasicRecord<Form> record, std::uint32_t format, bool holds_grouped) {
-  switch (format) {
-    case AAA_ATTR_FMT_STRING:
-    case AAA_ATTR_FMT_STRING_ATTR:
-      return record.length() > 0 && record.value()[record.length() - 1] == std::byte{0};
-    case AAA_ATTR_FMT_GROUPED:
-      return holds_grouped && record.length() == kHandleSize;
-    default:
-      return true;
-  }
-}
-
-}  // namespace
-
 template <class Form>
 FlatReader<Form>::FlatReader(const void *bytes, std::uint64_t length, FlatRules rules, std::uint16_t num_lists)
     // Views are mutable, but a reader only reads: who writes has a buffer of its own to pass.
@@ -60,11 +42,14 @@ bool FlatReader<Form>::enter_block() {
   const bool decodable = rules_ >= FlatRules::kDecodable;
   const std::size_t room = starts_list_ ? kBlockSize : kBlockSizeMax;
   if (decodable && used - header_size_ + kHeaderSize > room) return false;
-  std::uint16_t nested = 0;
-  if (!count_nested(&nested)) {
+  // A trusted block that claims no Grouped records need not be looked at.
+  const bool holds_grouped = block_.has(kBlockHoldsGrouped);
+  survey_ = decodable ? survey<true>() : whole || holds_grouped ? survey<false>() : Survey{true, false, 0};
+  if (!survey_.sound) {
     if (whole) return false;
     damaged_ = true;  // the records before the damage can be read
   }
+  if (decodable && survey_.live_grouped > 0 && !holds_grouped) return false;
 
   if (starts_list_) {
     if (!enter_list()) return false;
@@ -73,7 +58,7 @@ bool FlatReader<Form>::enter_block() {
   }
   Level &level = levels_[depth_];
   --level.blocks_left;
-  level.lists_left = nested;
+  level.lists_left = holds_grouped ? survey_.live_grouped : std::uint16_t{0};
   if (decodable && level.blocks_left == 0 && !block_.has(kBlockLast)) return false;
   if (rules_ == FlatRules::kValid && static_cast<bool>(block_.next()) != (level.blocks_left > 0)) return false;
   at_ += used;
@@ -94,23 +79,29 @@ bool FlatReader<Form>::enter_list() {
   return true;
 }
 
-// Goes over the block's records: *nested becomes the number of lists that lie behind the block. A trusted block that
-// claims no Grouped records need not be looked at.
 template <class Form>
-bool FlatReader<Form>::count_nested(std::uint16_t *nested) const {
-  const bool holds_grouped = block_.has(kBlockHoldsGrouped);
-  if (rules_ == FlatRules::kTrusted && !holds_grouped) return true;
+template <bool kHoldToPromises>
+typename FlatReader<Form>::Survey FlatReader<Form>::survey() const {
+  Survey found{};
+  std::uint32_t broken = 0;
   BasicRecordScan<Form> scan = records();
-  std::uint16_t grouped = 0;
   while (scan.next()) {
     const BasicRecord<Form> record = scan.record();
-    if (record.deleted()) continue;
-    const std::uint32_t format = format_of(record.type());
-    if (rules_ >= FlatRules::kDecodable && !keeps_promises(record, format, holds_grouped)) return false;
-    if (format == AAA_ATTR_FMT_GROUPED) ++grouped;
+    const Promise promise = promise_of(record.type());
+    if (promise == kPromisesSubList) [[unlikely]] {
+      found.any_grouped = true;
+      if (!record.deleted()) ++found.live_grouped;
+    }
+    if (!kHoldToPromises || record.deleted()) continue;
+    if (promise == kPromisesSubList) [[unlikely]] {
+      broken |= record.length() != kHandleSize;
+    } else {
+      // Without a branch, as texts come where they like: the last byte, or of an empty value anything but NUL.
+      broken |= promise & (std::to_integer<std::uint32_t>(scan.behind()[-1]) | (record.length() == 0));
+    }
   }
-  *nested = holds_grouped ? grouped : 0;
-  return rules_ == FlatRules::kTrusted ? !scan.overrun() : scan.exact();
+  found.sound = broken == 0 && (rules_ == FlatRules::kTrusted ? !scan.overrun() : scan.exact());
+  return found;
 }
 
 template class FlatReader<HostForm>;

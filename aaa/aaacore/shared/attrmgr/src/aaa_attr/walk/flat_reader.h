@@ -42,6 +42,7 @@ class FlatReader {
   std::size_t header_size() const { return header_size_; }
   BasicRecordScan<Form> records() const { return BasicRecordScan<Form>(block_, header_size_); }
   bool starts_list() const { return starts_list_; }
+  bool has_grouped() const { return survey_.any_grouped; }  // removed records included
   unsigned depth() const { return depth_ - 1; }  // 0 for the outer list
   std::byte *behind() const { return at_; }      // the byte behind the blocks read so far
 
@@ -51,9 +52,17 @@ class FlatReader {
     std::uint16_t lists_left;   // nested lists still to come behind its current block
   };
 
+  // What one pass over a block's records tells.
+  struct Survey {
+    bool sound;                  // the records are as many as counted, fill the block and keep what is promised of them
+    bool any_grouped;            // there are Grouped records, be they removed
+    std::uint16_t live_grouped;  // those that own a nested list
+  };
+
   bool enter_block();
   bool enter_list();
-  bool count_nested(std::uint16_t *nested) const;
+  template <bool kHoldToPromises>
+  Survey survey() const;
 
   std::byte *at_;
   std::uint64_t remaining_;
@@ -64,7 +73,8 @@ class FlatReader {
   bool complete_ = false;
   bool damaged_ = false;  // a trusted block's records pass its end: nothing behind it can be found
   unsigned depth_ = 0;    // level 0 stands for what contains the lists to read
-  Level levels_[AAA_ATTR_NESTING_MAX + 2] = {};
+  Survey survey_{};
+  Level levels_[AAA_ATTR_NESTING_MAX + 2];  // written as they are entered
 };
 
 }  // namespace attrmgr

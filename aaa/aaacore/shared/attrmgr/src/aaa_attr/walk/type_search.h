@@ -17,13 +17,26 @@ BlockView next_to_walk(BlockView block, std::uint16_t type);
 // early and blocks may be passed over.
 void note_type_zero();
 
+struct Place {
+  BlockView block;
+  RecordView record;
+};
+
 class RecordsOfType {
  public:
   class Iterator {
    public:
+    Iterator() = default;  // at the end
     Iterator(BlockView first, std::uint16_t type) : type_(type) {
       if (enter(first)) ++*this;
     }
+    // From a place on; its record may have been removed meanwhile.
+    Iterator(Place place, std::uint16_t type)
+        : type_(type), block_(place.block), scan_(place.record.bytes(), place.block.end(), kUncounted) {
+      ++*this;
+    }
+
+    Place place() const { return {block_, record_}; }
     RecordView operator*() const { return record_; }  // null at the end
     bool operator!=(WalkEnd) const { return static_cast<bool>(record_); }
 
@@ -41,13 +54,16 @@ class RecordsOfType {
     }
 
    private:
+    // How many records lie behind a place is not known; where they end is.
+    static constexpr std::uint16_t kUncounted = 0xFFFF;
+
     bool enter(BlockView block) {
       block_ = block ? next_to_walk(block, type_) : block;
       if (block_) scan_ = RecordScan(block_);
       return static_cast<bool>(block_);
     }
 
-    std::uint16_t type_;
+    std::uint16_t type_ = 0;
     BlockView block_;
     RecordScan scan_;
     RecordView record_;
