@@ -152,7 +152,7 @@ class Limits {
 
 #ifdef BENCH_HAVE_GPERF
   static std::uint32_t number_of(const std::string &name) {
-    const PerfectHashEntry *found = PerfectHash::find(name.c_str(), name.size());
+    const PerfectHashEntry *found = PerfectHash::find(name.c_str(), std::strlen(name.c_str()));
     return found != nullptr ? found->type : 0;
   }
 #endif

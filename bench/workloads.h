@@ -18,7 +18,7 @@
 //   std::uint32_t number_of(const std::string &name)
 //   std::string spelled(const std::string &name)    a name as number_of() wants it; as it is if the subject has no such
 //   const char *name_of(std::uint32_t type)
-//   std::size_t render(const List &, char *text, std::size_t size)               one line an attribute; the length
+//   std::size_t render(const List &, char *text, std::size_t size)               one line an attribute; 0: none
 //   void translate(std::byte *buffer, std::size_t size, bool there)              to network order and back
 //
 // A benchmark is named workload/N or workload/kind; the time is that of one operation on one list (of N attributes), of
@@ -334,7 +334,7 @@ class Workloads {
         const Attributes order = attributes(512);
         for (std::size_t i = 0; auto _ : state) {
           benchmark::DoNotOptimize(Subject::name_of(order[i].type));
-          i = (i + 1) % order.size();
+          if (++i == order.size()) i = 0;
         }
       });
   }

@@ -1,5 +1,4 @@
 // The exported look-ups over the type table.
-#include <cstring>
 #include <string_view>
 
 #include <attrmgr/aaa_attr_dict.h>
@@ -14,18 +13,18 @@ std::uint32_t aaa_attr_get_format_from_type(std::uint32_t type) { return format_
 
 const char *aaa_attr_get_name_from_type(std::uint32_t type) {
   const TypeRow *row = row_of(type);
-  return row != nullptr ? row->name : "Unknown AAA Attribute";
+  return row != nullptr ? row->name.data() : "Unknown AAA Attribute";
 }
 
 std::uint32_t aaa_attr_get_type_from_name(const char *name) {
   if (name == nullptr) return 0;
-  return kNameIndex.probe(name, [name](std::uint32_t type) { return std::strcmp(kTypes[type].name, name) == 0; });
+  const std::string_view wanted = name;
+  return kNameIndex.probe(wanted, [wanted](std::uint32_t type) { return kTypes[type].name == wanted; });
 }
 
 const char *aaa_attr_get_enum_name_from_type(std::uint32_t type, std::uint32_t value) {
   const TypeRow *row = row_of(type);
-  if (row == nullptr || row->values == nullptr || value >= row->values->count) return nullptr;
-  return row->values->names[value];
+  return row != nullptr ? value_name(*row, value) : nullptr;
 }
 
 const char *aaa_attr_get_interface_from_type(std::uint32_t value) {

@@ -31,7 +31,7 @@ constexpr std::size_t bitmap_of(std::uint32_t type) {
   return kNoBitmap;
 }
 
-constexpr TypeRow make_row(std::uint32_t type, const char *name, std::uint32_t format,
+constexpr TypeRow make_row(std::uint32_t type, std::string_view name, std::uint32_t format,
                            const aaa_attr_value_table *values, std::uint32_t flags, std::uint32_t class_mask) {
   const std::size_t bitmap = bitmap_of(type);
   if (bitmap == kNoBitmap) flags |= AAA_ATTR_TYPE_NO_AUTHOR;
@@ -54,7 +54,7 @@ namespace {
 
 constexpr bool every_row_stands_at_its_number() {
   for (std::uint32_t i = 0; i < std::size(kTypes); ++i)
-    if (kTypes[i].type != i || kTypes[i].name == nullptr) return false;
+    if (kTypes[i].type != i || kTypes[i].name.empty()) return false;
   return true;
 }
 

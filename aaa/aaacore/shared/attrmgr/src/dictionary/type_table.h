@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <string_view>
 
 #include <attrmgr/aaa_attr_dict.h>
 #include <attrmgr/aaa_attr_values.h>
@@ -12,7 +13,7 @@ namespace attrmgr {
 struct TypeRow {
   std::uint32_t type;
   std::uint32_t format;
-  const char *name;
+  std::string_view name;  // a literal: NUL follows
   const aaa_author_bitmap *author_flags;  // null without a bitmap
   std::uint32_t flags;
   std::uint32_t class_mask;
@@ -35,6 +36,11 @@ inline Promise promise_of(std::uint32_t type) { return type < AAA_ATTR_TYPE_COUN
 
 // Null for a number that is no type.
 inline const TypeRow *row_of(std::uint32_t type) { return type < AAA_ATTR_TYPE_COUNT ? &kTypes[type] : nullptr; }
+
+// The name of an Enum row's value; null for a value without one, and for rows of other formats.
+inline const char *value_name(const TypeRow &row, std::uint32_t value) {
+  return row.values != nullptr && value < row.values->count ? row.values->names[value] : nullptr;
+}
 
 // AAA_ATTR_FMT_INVALID for a number that is no type: it can arrive in a buffer.
 inline std::uint32_t format_of(std::uint32_t type) {

@@ -22,14 +22,14 @@ void hand_attribute(const Output &output, RecordView record, std::uint64_t numbe
   TextLine<kLineSize> text;
   aaa_attr_to_string(record, text, mode);
   TextLine<kNumberedLineSize> line;
-  line.put("\n").put_decimal(number).put(":  ").put(text.text());
+  line.put("\n").put_decimal(number).put(":  ").put(text.view());
   output.hand(line);
 }
 
 // A line that names a list, in hexadecimal or, as the brief form has it, in decimal.
 void hand_list(const Output &output, const char *title, aaa_attr_list_handle list, bool decimal) {
   TextLine<kLineSize> line;
-  line.put(title);
+  line.put(std::string_view(title));
   decimal ? line.put_decimal(list) : line.put_hex(list);
   output.hand(line);
 }

@@ -40,7 +40,7 @@ struct Summary {
   static void put_extreme(TextWriter &line, const Extreme &extreme) {
     TextLine<kLineSize> text;
     aaa_attr_to_string(extreme.record, text, RenderMode::kList);
-    line.put_decimal(extreme.length).put(" for attr ").put(text.text());
+    line.put_decimal(extreme.length).put(" for attr ").put(text.view());
   }
 };
 

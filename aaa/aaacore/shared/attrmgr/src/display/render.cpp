@@ -66,10 +66,9 @@ class Renderer {
   bool brief() const { return mode_ == RenderMode::kListBrief; }
 
   void put_header() {
-    char digits[12];
-    const std::to_chars_result end = std::to_chars(digits, digits + sizeof digits, length_);
-    line_.put_left(row_.name, kNameWidth).put(" len=");
-    line_.put_right(std::string_view(digits, static_cast<std::size_t>(end.ptr - digits)), kLengthWidth).put("  ");
+    TextLine<16> digits;
+    digits.put_decimal(length_);
+    line_.put_left(row_.name, kNameWidth).put(" len=").put_right(digits.view(), kLengthWidth).put("  ");
   }
 
   void put_meta() {
@@ -113,7 +112,10 @@ class Renderer {
   }
 
   // What stands for a value that is not shown begins a line of its own, but not in the brief form.
-  void put_marker(std::string_view marker) { line_.put(brief() ? "" : "\n").put(marker); }
+  void put_marker(std::string_view marker) {
+    if (!brief()) line_.put('\n');
+    line_.put(marker);
+  }
 
   void put_text() {
     const auto *text = reinterpret_cast<const char *>(record_.value());
@@ -123,7 +125,7 @@ class Renderer {
   // An identifier as octets, its first octet (the type) apart, and as text behind that.
   void put_client_id() {
     const auto *bytes = reinterpret_cast<const std::uint8_t *>(record_.value());
-    for (std::uint32_t i = 0; i < length_; ++i) line_.put(i > 0 ? "-0x" : "0x").put_hex_byte(bytes[i]);
+    for (std::uint32_t i = 0; i < length_; ++i) line_.put(std::string_view(i > 0 ? "-0x" : "0x")).put_hex_byte(bytes[i]);
     line_.put("(type :0x").put_hex_byte(value_as<std::uint8_t>(record_)).put(", ");
     for (std::uint32_t i = 1; i < length_; ++i) line_.put(std::isprint(bytes[i]) ? static_cast<char>(bytes[i]) : '*');
     line_.put(")");
@@ -159,9 +161,9 @@ class Renderer {
 
   void put_enum() {
     const auto value = value_as<std::uint32_t>(record_);
-    const char *name = aaa_attr_get_enum_name_from_type(row_.type, value);
+    const char *name = value_name(row_, value);
     if (name != nullptr) {
-      line_.put(name);
+      line_.put(std::string_view(name));
     } else {
       line_.put_decimal(value);
     }
@@ -169,13 +171,13 @@ class Renderer {
 
   void put_ipv4() {
     const auto address = value_as<Ipv4>(record_);
-    line_.put_decimal(address.bytes[0]);
-    for (std::size_t i = 1; i < sizeof address.bytes; ++i) line_.put(".").put_decimal(address.bytes[i]);
+    line_.put_decimal(std::uint32_t{address.bytes[0]});
+    for (std::size_t i = 1; i < sizeof address.bytes; ++i) line_.put(".").put_decimal(std::uint32_t{address.bytes[i]});
   }
 
   void put_ipv6(const std::uint8_t *address) {
     char text[AAA_IPV6_TEXT_SIZE];
-    line_.put(ipv6_address_to_string(address, text));
+    line_.put(std::string_view(ipv6_address_to_string(address, text)));
   }
 
   void put_time() {
@@ -189,7 +191,7 @@ class Renderer {
     }
   }
 
-  void put_boolean() { line_.put(value_as<std::uint8_t>(record_) != 0 ? "true" : "false"); }
+  void put_boolean() { line_.put(std::string_view(value_as<std::uint8_t>(record_) != 0 ? "true" : "false")); }
 
   RecordView record_;
   const TypeRow &row_;

@@ -1,9 +1,9 @@
-// Bounded text: what is put in beyond the room is dropped, and the text is always NUL-terminated. Like a formatter, it
-// goes on counting, so that full() tells whether something was cut.
+// Bounded text: what is put in beyond the room is dropped, and the text is always NUL-terminated.
 #pragma once
 
 #include <algorithm>
 #include <charconv>
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -14,32 +14,41 @@ namespace attrmgr {
 class TextWriter {
  public:
   // size counts the NUL and is at least 1.
-  TextWriter(char *text, std::size_t size) : text_(text), size_(size) { text_[0] = '\0'; }
+  TextWriter(char *text, std::size_t size) : begin_(text), at_(text), end_(text + size - 1) { *at_ = '\0'; }
 
-  const char *text() const { return text_; }
-  std::size_t length() const { return full() ? size_ - 1 : wanted_; }
-  // The room left, the NUL's included; 0 once the text has reached its end.
-  std::size_t room() const { return full() ? 0 : size_ - wanted_; }
-  bool full() const { return wanted_ >= size_; }
+  const char *text() const { return begin_; }
+  std::string_view view() const { return {begin_, length()}; }
+  std::size_t length() const { return static_cast<std::size_t>(at_ - begin_); }
+  // The room left, the NUL's included; 0 once something was dropped.
+  std::size_t room() const { return cut_ ? 0 : left() + 1; }
+  bool full() const { return cut_; }
 
   TextWriter &put(std::string_view piece) {
-    if (!full()) {
-      const std::size_t fits = piece.size() < room() ? piece.size() : room() - 1;
-      std::memcpy(text_ + wanted_, piece.data(), fits);
-      text_[wanted_ + fits] = '\0';
-    }
-    wanted_ += piece.size();
-    return *this;
+    if (piece.size() > left()) return put_what_fits(piece);
+    std::memcpy(at_, piece.data(), piece.size());
+    return advance(piece.size());
+  }
+
+  // A literal: its size is known, and copying it needs no call.
+  template <std::size_t N>
+  TextWriter &put(const char (&literal)[N]) {
+    return put(std::string_view(literal, N - 1));
   }
 
   TextWriter &put(char c) { return put(std::string_view(&c, 1)); }
 
-  TextWriter &put_decimal(std::uint64_t number) { return put_number(number, 10); }
+  template <std::unsigned_integral Number>
+  TextWriter &put_decimal(Number number) {
+    return put_number(number, 10);
+  }
+  template <std::unsigned_integral Number>
+  TextWriter &put_hex(Number number) {
+    return put_number(number, 16);
+  }
   TextWriter &put_signed(std::int64_t number) {
     if (number >= 0) return put_decimal(static_cast<std::uint64_t>(number));
     return put('-').put_decimal(static_cast<std::uint64_t>(-(number + 1)) + 1);
   }
-  TextWriter &put_hex(std::uint64_t number) { return put_number(number, 16); }
 
   // Two lowercase hexadecimal digits.
   TextWriter &put_hex_byte(std::uint8_t byte) {
@@ -48,26 +57,54 @@ class TextWriter {
     return put(std::string_view(digits, sizeof digits));
   }
 
-  // The piece in a column of at least `width`: blanks behind it, or before it.
-  TextWriter &put_left(std::string_view piece, std::size_t width) { return put(piece).pad(piece, width); }
-  TextWriter &put_right(std::string_view piece, std::size_t width) { return pad(piece, width).put(piece); }
+  // The piece in a column of at least `width`, at most as wide as kBlanks: blanks behind it, or before it.
+  TextWriter &put_left(std::string_view piece, std::size_t width) { return put(piece).pad(piece.size(), width); }
+  TextWriter &put_right(std::string_view piece, std::size_t width) { return pad(piece.size(), width).put(piece); }
 
  private:
-  TextWriter &put_number(std::uint64_t number, int base) {
-    char digits[24];
-    const std::to_chars_result end = std::to_chars(digits, digits + sizeof digits, number, base);
-    return put(std::string_view(digits, static_cast<std::size_t>(end.ptr - digits)));
+  static constexpr std::string_view kBlanks = "                ";
+  static constexpr std::size_t kDigitsMax = 20;
+
+  std::size_t left() const { return static_cast<std::size_t>(end_ - at_); }
+
+  TextWriter &advance(std::size_t size) {
+    at_ += size;
+    *at_ = '\0';
+    return *this;
   }
 
-  TextWriter &pad(std::string_view piece, std::size_t width) {
-    constexpr std::string_view kBlanks = "                ";
-    if (piece.size() >= width) return *this;
-    return put(std::string_view(kBlanks.data(), std::min(kBlanks.size(), width - piece.size())));
+  TextWriter &put_what_fits(std::string_view piece) {
+    cut_ = true;
+    const std::size_t fits = left();
+    std::memcpy(at_, piece.data(), fits);
+    return advance(fits);
   }
 
-  char *text_;
-  std::size_t size_;
-  std::size_t wanted_ = 0;
+  // Digits are written in place where any number would find room.
+  template <class Number>
+  TextWriter &put_number(Number number, int base) {
+    if (left() >= kDigitsMax) return advance(static_cast<std::size_t>(write(at_, number, base) - at_));
+    char digits[kDigitsMax];
+    return put(std::string_view(digits, static_cast<std::size_t>(write(digits, number, base) - digits)));
+  }
+
+  template <class Number>
+  static char *write(char *digits, Number number, int base) {
+    return std::to_chars(digits, digits + kDigitsMax, number, base).ptr;
+  }
+
+  TextWriter &pad(std::size_t size, std::size_t width) {
+    if (size >= width) return *this;
+    const std::size_t blanks = width - size;
+    if (kBlanks.size() > left()) return put(kBlanks.substr(0, blanks));
+    std::memcpy(at_, kBlanks.data(), kBlanks.size());
+    return advance(blanks);
+  }
+
+  char *begin_;
+  char *at_;
+  char *end_;  // the last place: the NUL's, when all others are taken
+  bool cut_ = false;
 };
 
 // A text of its own, at most N - 1 characters.
