@@ -126,10 +126,26 @@ const std::vector<Sample> &samples() {
 
 Attributes merged_in() { return attributes(32, 112, 1); }
 
+Attributes after_merge() {
+  Attributes made = attributes(128);
+  for (const Attribute &newer : merged_in()) {
+    std::erase_if(made, [&newer](const Attribute &old) { return old.type == newer.type; });
+    made.push_back(newer);
+  }
+  return made;
+}
+
 Attributes removed() {
   const Attributes all = attributes(128);
   Attributes made;
   for (std::size_t i = 0; i < all.size(); i += 4) made.push_back(all[i]);
+  return made;
+}
+
+Attributes after_remove() {
+  Attributes made = attributes(128);
+  for (const Attribute &unwanted : removed())
+    std::erase_if(made, [&unwanted](const Attribute &a) { return a.type == unwanted.type; });
   return made;
 }
 

@@ -38,9 +38,11 @@ struct Sample {
 };
 const std::vector<Sample> &samples();
 
-// The lists of the workloads of two lists.
+// The lists of the workloads of two lists, and what they make of the first 128 attributes.
 Attributes merged_in();  // 32: half of them have a type that the first 128 have too
-Attributes removed();    // 32 of the first 128
+Attributes after_merge();
+Attributes removed();  // 32 of the first 128
+Attributes after_remove();
 Attributes shuffled(Attributes attributes);
 
 // All names of the dictionary, shuffled, and their numbers.

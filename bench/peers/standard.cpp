@@ -1,10 +1,12 @@
-// What one would write without any library: a vector of structs with strings, a hash map for names, snprintf for text.
+// What one would write without any library: a vector of structs with strings, a hash map for names, snprintf for text;
+// an index by type for what has two lists.
 #include <attrmgr/aaa_attr_dict.h>
 
 #include <algorithm>
 #include <cstdio>
 #include <unordered_map>
 
+#include "type_index.h"
 #include "workloads.h"
 
 namespace {
@@ -20,7 +22,7 @@ class Standard {
  public:
   using List = bench::Attributes;
 
-  static const char *name() { return "std::vector, snprintf"; }
+  static const char *name() { return "std::vector"; }
 
   static List build(const bench::Attributes &attributes) {
     List list;
@@ -37,11 +39,11 @@ class Standard {
   static List copy(const List &list) { return list; }
 
   static void merge(List &into, const List &from) {
+    bench::TypeIndex<std::size_t> places;
+    for (std::size_t i = 0; i < into.size(); ++i) places.add(into[i].type, i);
     for (const Attribute &attribute : from) {
-      const auto same = [&attribute](const Attribute &a) { return a.type == attribute.type; };
-      const auto found = std::find_if(into.begin(), into.end(), same);
-      if (found != into.end()) {
-        found->value = attribute.value;
+      if (const std::size_t *found = places.find(attribute.type)) {
+        into[*found].value = attribute.value;
       } else {
         into.push_back(attribute);
       }
@@ -49,17 +51,12 @@ class Standard {
   }
 
   static void remove(List &from, const List &types) {
-    std::erase_if(from, [&types](const Attribute &a) { return find(types, a.type); });
+    std::erase_if(from, [unwanted = index(types)](const Attribute &a) { return unwanted.has(a.type); });
   }
 
   static bool equal(const List &list1, const List &list2) {
-    const auto all_in = [](const List &one, const List &other) {
-      return std::all_of(one.begin(), one.end(), [&other](const Attribute &a) {
-        return std::any_of(other.begin(), other.end(),
-                           [&a](const Attribute &b) { return a.type == b.type && a.value == b.value; });
-      });
-    };
-    return all_in(list1, list2) && all_in(list2, list1);
+    return Index::equal(index(list1), index(list2),
+                        [](const Attribute *a, const Attribute *b) { return a->value == b->value; });
   }
 
   static std::uint32_t number_of(const std::string &name) {
@@ -83,6 +80,14 @@ class Standard {
   }
 
  private:
+  using Index = bench::TypeIndex<const Attribute *>;
+
+  static Index index(const List &list) {
+    Index made;
+    for (const Attribute &attribute : list) made.add(attribute.type, &attribute);
+    return made;
+  }
+
   static int render_one(int number, const Attribute &a, char *text, std::size_t size) {
     const char *name = aaa_attr_get_name_from_type(a.type);
     const unsigned char *b = octets(a);
