@@ -1,5 +1,6 @@
 // Operations whose instructions are counted, each in a function of its own that runs once: scripts/check-cost runs this
-// program under callgrind and holds the counts against bench/costs.txt. What a function needs is prepared before it runs.
+// program under callgrind and holds the counts against bench/costs.txt. What a function needs is prepared before it
+// runs.
 #include <attrmgr/attrmgr.h>
 
 #include <cstddef>

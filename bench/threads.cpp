@@ -14,7 +14,7 @@ namespace {
 void cursor_cycle(benchmark::State &state) {
   aaa_attr_list_handle list = 0;
   aaa_attr_list_alloc(&list);
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     aaa_cursor *cursor = nullptr;
     aaa_cursor_alloc(list, &cursor);
     benchmark::DoNotOptimize(cursor);
@@ -28,7 +28,7 @@ void cursor_cycle(benchmark::State &state) {
 void exchange(benchmark::State &state) {
   const bench::Attributes attributes = bench::attributes(32);
   std::byte buffer[4096];
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     aaa_attr_list_handle list = 0;
     aaa_attr_list_alloc(&list);
     for (const bench::Attribute &attribute : attributes)

@@ -1,5 +1,5 @@
-// What the formats ask of a value's length, and which of them store a NUL behind it. A table and no switch: formats come
-// in no order that a processor could foresee.
+// What the formats ask of a value's length, and which of them store a NUL behind it. A table and no switch: formats
+// come in no order that a processor could foresee.
 #pragma once
 
 #include <algorithm>

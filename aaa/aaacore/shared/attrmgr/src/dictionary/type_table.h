@@ -13,7 +13,7 @@ namespace attrmgr {
 struct TypeRow {
   std::uint32_t type;
   std::uint32_t format;
-  std::string_view name;  // a literal: NUL follows
+  std::string_view name;                  // a literal: NUL follows
   const aaa_author_bitmap *author_flags;  // null without a bitmap
   std::uint32_t flags;
   std::uint32_t class_mask;
@@ -32,7 +32,9 @@ inline constexpr Promise kPromisesSubList = 1;
 inline constexpr Promise kPromisesNul = 0xFF;
 extern const std::array<Promise, AAA_ATTR_TYPE_COUNT> kPromises;
 
-inline Promise promise_of(std::uint32_t type) { return type < AAA_ATTR_TYPE_COUNT ? kPromises[type] : kPromisesNothing; }
+inline Promise promise_of(std::uint32_t type) {
+  return type < AAA_ATTR_TYPE_COUNT ? kPromises[type] : kPromisesNothing;
+}
 
 // Null for a number that is no type.
 inline const TypeRow *row_of(std::uint32_t type) { return type < AAA_ATTR_TYPE_COUNT ? &kTypes[type] : nullptr; }

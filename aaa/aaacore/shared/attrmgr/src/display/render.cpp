@@ -125,7 +125,8 @@ class Renderer {
   // An identifier as octets, its first octet (the type) apart, and as text behind that.
   void put_client_id() {
     const auto *bytes = reinterpret_cast<const std::uint8_t *>(record_.value());
-    for (std::uint32_t i = 0; i < length_; ++i) line_.put(std::string_view(i > 0 ? "-0x" : "0x")).put_hex_byte(bytes[i]);
+    for (std::uint32_t i = 0; i < length_; ++i)
+      line_.put(std::string_view(i > 0 ? "-0x" : "0x")).put_hex_byte(bytes[i]);
     line_.put("(type :0x").put_hex_byte(value_as<std::uint8_t>(record_)).put(", ");
     for (std::uint32_t i = 1; i < length_; ++i) line_.put(std::isprint(bytes[i]) ? static_cast<char>(bytes[i]) : '*');
     line_.put(")");

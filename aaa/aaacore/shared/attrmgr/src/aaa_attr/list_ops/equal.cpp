@@ -1,6 +1,6 @@
 // Equality of lists as sets: every attribute of each has a match in the other. Lists that hold the same in the same
-// order are equal after one pass over both, block by block if even the bytes are the same; only what is behind the first
-// difference is searched for.
+// order are equal after one pass over both, block by block if even the bytes are the same; only what is behind the
+// first difference is searched for.
 //
 // Sub-lists are compared by content, which is dear: two of them are compared once, for both directions together.
 // Without that, every level of nesting would double the work.

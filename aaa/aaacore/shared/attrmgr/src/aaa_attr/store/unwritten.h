@@ -8,7 +8,7 @@ namespace attrmgr {
 template <class T>
 union Unwritten {
   static_assert(std::is_trivially_destructible_v<T>);
-  Unwritten() {}
+  Unwritten() {}  // NOLINT(modernize-use-equals-default): a default one would be deleted for most T
   T value;
 };
 

@@ -43,8 +43,8 @@ class FlatReader {
   BasicRecordScan<Form> records() const { return BasicRecordScan<Form>(block_, header_size_); }
   bool starts_list() const { return starts_list_; }
   bool has_grouped() const { return survey_.any_grouped; }  // removed records included
-  unsigned depth() const { return depth_ - 1; }  // 0 for the outer list
-  std::byte *behind() const { return at_; }      // the byte behind the blocks read so far
+  unsigned depth() const { return depth_ - 1; }             // 0 for the outer list
+  std::byte *behind() const { return at_; }                 // the byte behind the blocks read so far
 
  private:
   struct Level {
