@@ -55,16 +55,26 @@ bool has_match(RecordView wanted, RecordsOfType::Iterator candidate) {
   return false;
 }
 
-// From the position on, every record that holds a value has a match in the list. Not in line: its index is not to lie
-// on the stack while sub-lists are compared.
-[[gnu::noinline]] bool values_have_match(Position from, BlockView own, BlockView list) {
-  const TypeIndex index(list, own);
+// Every record that holds a value, from the position on, has a match in the list that the index is of.
+bool values_have_match(Position from, const TypeIndex &index) {
   for (; *from; ++from)
     if (!is_grouped(*from) && !has_match(*from, index.records((*from).type()))) return false;
   return true;
 }
 
-// The same of records that own sub-lists.
+// The values of either list, from the positions on, have a match in the other one. Where each type of the second list is
+// there but once, a record of the first one that has a match is the match of that match, and the way back is short. Not
+// in line: the indexes are not to lie on the stack while sub-lists are compared.
+[[gnu::noinline]] bool values_match(Position at1, BlockView list1, Position at2, BlockView list2) {
+  const TypeIndex index2(list2, list1);
+  if (!values_have_match(at1, index2)) return false;
+  if (!index2.unique()) return values_have_match(at2, TypeIndex(list1, list2));
+  for (; *at2; ++at2)
+    if (!is_grouped(*at2) && !index2.asked((*at2).type())) return false;
+  return true;
+}
+
+// Every record that owns a sub-list, from the position on, has a match in the list.
 bool grouped_have_match(Position from, BlockView list) {
   for (; *from; ++from)
     if (is_grouped(*from) && !has_match(*from, RecordsOfType(list, (*from).type()).begin())) return false;
@@ -166,8 +176,7 @@ bool lists_equal(aaa_attr_list_handle handle1, aaa_attr_list_handle handle2) {
     ++at2;
   }
   if (!*at1 && !*at2) return true;
-  return values_have_match(at1, list1, list2) && values_have_match(at2, list2, list1) &&
-         grouped_match({list1, list2, at1, at2});
+  return values_match(at1, list1, at2, list2) && grouped_match({list1, list2, at1, at2});
 }
 
 }  // namespace

@@ -5,21 +5,23 @@
 namespace attrmgr {
 
 TypeIndex::TypeIndex(BlockView list, BlockView asked) : list_(list) {
-  TypeSet asked_types;
-  for (const RecordView record : Attributes(asked)) asked_types.insert(record.type());
+  for (const RecordView record : Attributes(asked)) asked_.insert(record.type());
   for (const BlockView block : Blocks(list))
     for (const RecordView record : BlockRecords(block)) {
       if (record.type() == 0) {
         cut_ = true;
         return;
       }
-      if (asked_types.may_contain(record.type())) note({block, record});
+      if (asked_.may_contain(record.type())) note({block, record});
     }
 }
 
 void TypeIndex::note(Place place) {
   const std::uint16_t type = place.record.type();
-  if (type >= AAA_ATTR_TYPE_COUNT || known_.may_contain(type)) return;
+  if (type >= AAA_ATTR_TYPE_COUNT || known_.may_contain(type)) {
+    unique_ = false;
+    return;
+  }
   known_.insert(type);
   first_[type].value = place;
 }

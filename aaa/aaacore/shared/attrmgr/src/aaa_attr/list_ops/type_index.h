@@ -21,6 +21,12 @@ class TypeIndex {
   // The first of them; null without any. Cheaper, if records are removed between two calls.
   RecordView first(std::uint16_t type);
 
+  // Whether the types that were asked for, and found, are of the dictionary and found once each.
+  bool unique() const { return unique_; }
+
+  // Whether there is a record of the type in the other list; only where unique().
+  bool asked(std::uint16_t type) const { return asked_.may_contain(type); }
+
   // A record of this size was appended to the list.
   void appended(std::size_t size);
 
@@ -28,8 +34,10 @@ class TypeIndex {
   void note(Place place);
 
   BlockView list_;
+  TypeSet asked_;
   TypeSet known_;
   Unwritten<Place> first_[AAA_ATTR_TYPE_COUNT];  // of a known type: no live record of it lies before
+  bool unique_ = true;
   bool cut_ = false;                             // a record of type 0 ends the walk: what is appended is not found
 };
 

@@ -32,8 +32,11 @@ class RecordsOfType {
     }
     // From a place on; its record may have been removed meanwhile.
     Iterator(Place place, std::uint16_t type)
-        : type_(type), block_(place.block), scan_(place.record.bytes(), place.block.end(), kUncounted) {
-      ++*this;
+        : type_(type),
+          block_(place.block),
+          scan_(place.record.bytes() + place.record.size(), place.block.end(), kUncounted),
+          record_(place.record) {
+      if (record_.deleted()) ++*this;
     }
 
     Place place() const { return {block_, record_}; }
