@@ -12,11 +12,11 @@ import re
 import statistics
 import sys
 
+import capacity
 import chart
 
 LIBRARY = "attrmgr"
 LIMIT = "limit"
-BEGIN, END = "<!-- figures: begin -->", "<!-- figures: end -->"
 SIMILAR = 1.05  # up to here the library counts as no slower
 
 
@@ -96,11 +96,18 @@ def table(results):
     return "\n".join("| " + " | ".join(line) + " |" for line in lines)
 
 
+def replaced(document, name, text):
+    begin, end = f"<!-- {name}: begin -->", f"<!-- {name}: end -->"
+    before, rest = document.split(begin)
+    _, after = rest.split(end)
+    return f"{before}{begin}\n{text}\n{end}{after}"
+
+
 def write(folder, results, text):
-    document = pathlib.Path(folder, "performance.md")
-    before, rest = document.read_text().split(BEGIN)
-    _, after = rest.split(END)
-    document.write_text(f"{before}{BEGIN}\n{text}\n{END}{after}")
+    path = pathlib.Path(folder, "performance.md")
+    document = replaced(path.read_text(), "figures", text)
+    own = {workload: by_subject.get(LIBRARY) for workload, by_subject in results.figures.items()}
+    path.write_text(replaced(document, "capacity", capacity.table(own)))
     pathlib.Path(folder, "performance.svg").write_text(
         chart.svg(results.figures, results.subjects, LIBRARY, LIMIT, results.machine())
     )
