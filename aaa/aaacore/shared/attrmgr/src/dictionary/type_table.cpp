@@ -79,9 +79,10 @@ constexpr std::array<std::uint8_t, AAA_ATTR_TYPE_COUNT> formats() {
 constexpr std::array<Promise, AAA_ATTR_TYPE_COUNT> promises() {
   std::array<Promise, AAA_ATTR_TYPE_COUNT> column{};
   for (std::size_t i = 0; i < column.size(); ++i) {
-    if (kFormatRules.nul(kTypes[i].format) != 0) column[i] = kPromisesNul;
-    if (kTypes[i].format == AAA_ATTR_FMT_GROUPED) column[i] = kPromisesSubList;
+    if (kFormatRules.nul(kTypes[i].format) != 0) column[i] = Promise::kNul;
+    if (kTypes[i].format == AAA_ATTR_FMT_GROUPED) column[i] = Promise::kSubList;
   }
+  column[0] = Promise::kEnd;
   return column;
 }
 

@@ -25,15 +25,17 @@ extern const TypeRow kTypes[AAA_ATTR_TYPE_COUNT];
 // The formats of all types once more, dense: the column that every add and every walk reads.
 extern const std::array<std::uint8_t, AAA_ATTR_TYPE_COUNT> kFormats;
 
-// What a live record of a type promises its readers, as dense: a mask for the last byte of a text, which is then NUL.
-using Promise = std::uint8_t;
-inline constexpr Promise kPromisesNothing = 0;
-inline constexpr Promise kPromisesSubList = 1;
-inline constexpr Promise kPromisesNul = 0xFF;
+// What a live record of a type promises its readers, as dense.
+enum class Promise : std::uint8_t {
+  kNothing,
+  kSubList,  // the value is a handle
+  kNul,      // the value ends in NUL
+  kEnd,      // type 0: a client's walk ends here
+};
 extern const std::array<Promise, AAA_ATTR_TYPE_COUNT> kPromises;
 
 inline Promise promise_of(std::uint32_t type) {
-  return type < AAA_ATTR_TYPE_COUNT ? kPromises[type] : kPromisesNothing;
+  return type < AAA_ATTR_TYPE_COUNT ? kPromises[type] : Promise::kNothing;
 }
 
 // Null for a number that is no type.

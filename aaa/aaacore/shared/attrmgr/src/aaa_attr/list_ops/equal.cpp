@@ -62,9 +62,9 @@ bool values_have_match(Position from, const TypeIndex &index) {
   return true;
 }
 
-// The values of either list, from the positions on, have a match in the other one. Where each type of the second list is
-// there but once, a record of the first one that has a match is the match of that match, and the way back is short. Not
-// in line: the indexes are not to lie on the stack while sub-lists are compared.
+// The values of either list, from the positions on, have a match in the other one. Where each type of the second list
+// is there but once, a record of the first one that has a match is the match of that match, and the way back is short.
+// Not in line: the indexes are not to lie on the stack while sub-lists are compared.
 [[gnu::noinline]] bool values_match(Position at1, BlockView list1, Position at2, BlockView list2) {
   const TypeIndex index2(list2, list1);
   if (!values_have_match(at1, index2)) return false;

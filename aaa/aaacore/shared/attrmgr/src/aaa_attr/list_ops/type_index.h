@@ -38,7 +38,7 @@ class TypeIndex {
   TypeSet known_;
   Unwritten<Place> first_[AAA_ATTR_TYPE_COUNT];  // of a known type: no live record of it lies before
   bool unique_ = true;
-  bool cut_ = false;                             // a record of type 0 ends the walk: what is appended is not found
+  bool cut_ = false;  // a record of type 0 ends the walk: what is appended is not found
 };
 
 }  // namespace attrmgr

@@ -6,6 +6,7 @@
 
 #include "aaa_attr/store/unwritten.h"
 #include "aaa_attr/walk/flat_reader.h"
+#include "aaa_attr/walk/type_search.h"
 #include "dictionary/type_table.h"
 
 namespace attrmgr {
@@ -21,6 +22,7 @@ class FlatDecoder {
       BlockView to;
       if (const aaa_attr_cerrno code = make_block(&to)) return code;
       copy_block(to);
+      if (reader_.has_type_zero()) note_type_zero();
       Level &level = levels_[reader_.depth()].value;
       level.last = to;
       level.records = RecordScan(to);

@@ -44,7 +44,7 @@ bool FlatReader<Form>::enter_block() {
   if (decodable && used - header_size_ + kHeaderSize > room) return false;
   // A trusted block that claims no Grouped records need not be looked at.
   const bool holds_grouped = block_.has(kBlockHoldsGrouped);
-  survey_ = decodable ? survey<true>() : whole || holds_grouped ? survey<false>() : Survey{true, false, 0};
+  survey_ = decodable ? survey<true>() : whole || holds_grouped ? survey<false>() : Survey{true, false, false, 0};
   if (!survey_.sound) {
     if (whole) return false;
     damaged_ = true;  // the records before the damage can be read
@@ -88,16 +88,16 @@ typename FlatReader<Form>::Survey FlatReader<Form>::survey() const {
   while (scan.next()) {
     const BasicRecord<Form> record = scan.record();
     const Promise promise = promise_of(record.type());
-    if (promise == kPromisesSubList) [[unlikely]] {
+    if (promise == Promise::kNothing) continue;
+    if (promise == Promise::kSubList) [[unlikely]] {
       found.any_grouped = true;
-      if (!record.deleted()) ++found.live_grouped;
-    }
-    if (!kHoldToPromises || record.deleted()) continue;
-    if (promise == kPromisesSubList) [[unlikely]] {
-      broken |= record.length() != kHandleSize;
-    } else {
-      // Without a branch, as texts come where they like: the last byte, or of an empty value anything but NUL.
-      broken |= promise & (std::to_integer<std::uint32_t>(scan.behind()[-1]) | (record.length() == 0));
+      if (record.deleted()) continue;
+      ++found.live_grouped;
+      if (kHoldToPromises) broken |= record.length() != kHandleSize;
+    } else if (promise == Promise::kEnd) {
+      found.any_type_zero = true;
+    } else if (kHoldToPromises && !record.deleted()) {
+      broken |= record.length() == 0 || scan.behind()[-1] != std::byte{0};
     }
   }
   found.sound = broken == 0 && (rules_ == FlatRules::kTrusted ? !scan.overrun() : scan.exact());
