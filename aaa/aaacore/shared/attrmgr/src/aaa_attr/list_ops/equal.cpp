@@ -35,11 +35,10 @@ bool matches(RecordView a, RecordView b) {
   return same_value(a, b) && same_meta(a, b);
 }
 
-// Whether the lists have the same records, byte by byte and block by block. Sub-lists say nothing by their handles.
+// Whether the lists have the same records, byte by byte and block by block; the same handle is the same sub-list.
 bool same_bytes(BlockView block1, BlockView block2) {
   while (block1 && block2) {
-    if (block1.has(kBlockHoldsGrouped) || block1.used() != block2.used()) return false;
-    if (block1.record_count() != block2.record_count()) return false;
+    if (block1.used() != block2.used() || block1.record_count() != block2.record_count()) return false;
     if (std::memcmp(block1.records(), block2.records(), block1.used() - kHeaderSize) != 0) return false;
     block1 = block1.next();
     block2 = block2.next();
