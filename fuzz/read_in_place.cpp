@@ -148,6 +148,47 @@ std::vector<std::string> printed(Call call) {
   return lines;
 }
 
+// A record whose length passes its block: the readers go as far as it at most, and never beyond its block. It is one of
+// the buffer's records, chosen by the buffer's size.
+void survive_damage(std::uint8_t *bytes, const Buffer &buffer, std::size_t size) {
+  const std::vector<Record> &records = buffer.reading.records();
+  if (records.empty()) return;
+  const Record &damaged = records[size % records.size()];
+  std::fill_n(bytes + damaged.at + 4, 4, std::uint8_t{0xFF});
+  aaa_cursor *cursor = nullptr;
+  REQUIRE(aaa_cursor_alloc_from_buffer(bytes, &cursor) == 0);
+  const std::vector<Record> all = seen_in(buffer.reading, 0);
+  for (std::size_t i = 0; const std::uint32_t type = aaa_cursor_get_next(cursor); ++i) {
+    REQUIRE(i < all.size() && type == all[i].type && all[i].at != damaged.at);
+    exercise::read_attribute(cursor);
+  }
+  aaa_cursor_free(cursor);
+  printed([bytes] { aaa_attr_list_buffer_print(bytes); });
+  std::uint8_t value[256];
+  std::uint32_t format = 0, value_size = sizeof value;
+  if (aaa_attr_get_from_buffer(bytes, damaged.type, &format, value, &value_size) == 0)
+    REQUIRE(records.front().at != damaged.at);
+}
+
+// Only the decoder takes a marker of 0 for that of a flat buffer, and nobody takes one that is not known.
+void refuse_other_markers(std::uint8_t *bytes, std::uint32_t length) {
+  for (const std::uint8_t marker : {0, 0xFF}) {
+    bytes[0] = marker;
+    aaa_attr_list_handle list = 0;
+    REQUIRE(aaa_attr_buffer_to_list(bytes, length, &list) == (marker == 0 ? 0 : AAA_ATTR_ERR_BAD_ARG));
+    aaa_attr_list_free(list);
+    aaa_attr_cerrno code = 0;
+    std::uint32_t format = 0, value = 0, size = sizeof value;
+    REQUIRE(is_aaa_attr_buffer_valid(bytes, length, &code) == 0 && code == AAA_ATTR_ERR_BAD_ARG);
+    REQUIRE(aaa_attr_buffer_scrub(bytes, length) == AAA_ATTR_ERR_BAD_ARG);
+    REQUIRE(aaa_attr_buffer_is_alien(bytes, length) == 0);
+    REQUIRE(aaa_attr_get_from_buffer(bytes, 2, &format, &value, &size) == AAA_ATTR_ERR_BAD_ARG);
+    for (const auto direction : {CDM_ENDIAN_TRAN_HTON, CDM_ENDIAN_TRAN_NTOH})
+      REQUIRE(aaa_attrs_buffer_tran_v1(reinterpret_cast<char *>(bytes), length, direction) == AAA_ATTR_ERR_BAD_ARG);
+  }
+  bytes[0] = AAA_MARSHAL_BUFFER;
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
@@ -182,5 +223,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
   REQUIRE(printed([list] { aaa_attr_list_print(list); }) == lines);  // and clears bits behind IPv6 prefixes in the list
   aaa_attr_list_free(scrubbed);
   aaa_attr_list_free(list);
+  refuse_other_markers(copy.data(), length);
+  survive_damage(copy.data(), buffer, size);
   return 0;
 }
