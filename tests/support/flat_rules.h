@@ -17,17 +17,22 @@ struct Record {
   std::size_t sub_list;  // of a live Grouped record: its number among the lists
 };
 
+// Whose rules: those of the decoder and of the check for reading in place, or those of the translation.
+enum class For { kReading, kTranslation };
+
 class Reading {
  public:
   // Reads the buffer behind its marker.
-  Reading(const std::uint8_t *bytes, std::size_t size) : bytes_(bytes), size_(size) {
+  Reading(const std::uint8_t *bytes, std::size_t size, For purpose = For::kReading)
+      : bytes_(bytes), size_(size), translation_(purpose == For::kTranslation) {
     const std::size_t outer = new_list();
     read_in_place_ = size > 1;
-    decodable_ = size == 1 || list(0, outer);
+    decodable_ = (size == 1 && !translation_) || list(0, outer);
   }
 
   bool decodable() const { return decodable_; }
   bool valid() const { return decodable_ && read_in_place_; }
+  bool translatable() const { return decodable_; }
 
   // All records in the order in which they lie, and those of each list; list 0 is the outer one.
   const std::vector<Record> &records() const { return records_; }
@@ -58,15 +63,16 @@ class Reading {
     std::uint64_t blocks = 1;
     for (std::uint64_t i = 0; i < blocks; ++i) {
       if (size_ - at_ < 12) return false;
-      const bool first = i == 0;
       const unsigned flags = bytes_[at_ + 3];
+      const bool first = i == 0, head = (flags & kHead) != 0;
       const std::size_t header = (flags & kLayout) == kForeign ? 16 : 24;
       const std::size_t used = number(at_ + 10, 2);
       if (number(at_, 2) != 0xABCD || used < header || used > size_ - at_) return false;
-      if (first) blocks = number(at_ + 4, 2);
+      if (first && (head || !translation_)) blocks = number(at_ + 4, 2);  // else a list of one block
+      if (blocks == 0) return false;
       const bool last = i + 1 == blocks;
-      if (blocks == 0 || first != ((flags & kHead) != 0) || (last && (flags & kLast) == 0)) return false;
-      if (used - header > (first ? kHeadRoom : kRoom)) return false;
+      const bool chained = first == head && (!last || (flags & kLast) != 0);
+      if (!translation_ && (!chained || used - header > (first ? kHeadRoom : kRoom))) return false;
       if (header == 16 || (number(at_ + 16, 8) == 0) != last) read_in_place_ = false;
 
       std::vector<std::size_t> nested;
@@ -77,6 +83,25 @@ class Reading {
         if (!list(depth + 1, sub_list)) return false;
     }
     return true;
+  }
+
+  static bool has_its_length(const Record &record) {
+    switch (record.format) {
+      case AAA_ATTR_FMT_ULONG:
+      case AAA_ATTR_FMT_ENUM:
+        return record.length == 4;
+      case AAA_ATTR_FMT_BOOLEAN:
+        return record.length == 1;
+      default:
+        return record.format != AAA_ATTR_FMT_GROUPED || record.length == 8;
+    }
+  }
+
+  bool keeps_promises(const Record &record, bool holds_grouped) const {
+    if (record.removed) return true;
+    if (record.format == AAA_ATTR_FMT_GROUPED) return holds_grouped && record.length == 8;
+    const bool text = record.format == AAA_ATTR_FMT_STRING || record.format == AAA_ATTR_FMT_STRING_ATTR;
+    return !text || (record.length > 0 && bytes_[record.value_at + record.length - 1] == 0);
   }
 
   bool block_records(std::size_t list_number, std::size_t at, std::size_t end, bool holds_grouped,
@@ -94,14 +119,9 @@ class Reading {
       if (end - at < value_after || end - at - value_after < record.length) return false;
       record.value_at = at + value_after;
       at = record.value_at + record.length;
-      if (!record.removed) {
-        const bool text = record.format == AAA_ATTR_FMT_STRING || record.format == AAA_ATTR_FMT_STRING_ATTR;
-        if (text && (record.length == 0 || bytes_[at - 1] != 0)) return false;
-        if (record.format == AAA_ATTR_FMT_GROUPED) {
-          if (!holds_grouped || record.length != 8) return false;
-          nested->push_back(record.sub_list = new_list());
-        }
-      }
+      if (!(translation_ ? has_its_length(record) : keeps_promises(record, holds_grouped))) return false;
+      if (record.format == AAA_ATTR_FMT_GROUPED && !record.removed && holds_grouped)
+        nested->push_back(record.sub_list = new_list());
       lists_[list_number].push_back(records_.size());
       records_.push_back(record);
     }
@@ -110,6 +130,7 @@ class Reading {
 
   const std::uint8_t *bytes_;
   std::size_t size_, at_ = 1;
+  bool translation_;
   bool decodable_ = false, read_in_place_;
   std::vector<Record> records_;
   std::vector<std::vector<std::size_t>> lists_;

@@ -119,7 +119,8 @@ inline std::vector<Case> chain_cases() {
 }
 
 inline std::vector<Case> nesting_cases() {
-  const Bytes grouped = record(type::kGrouped, "handle 1");
+  const Bytes grouped = record(type::kGrouped, "handle 1"), removed = record(type::kGrouped, "handle 2", 2);
+  const Bytes one = block(kHead | kLast, 1, {record(type::kUlong, "abcd")});
   return {
       nested("a Grouped value of no bytes", "49=00 53=1e00000000000000 7=0400", "DVT", "no room for a handle"),
       nested("a Grouped record in a block that claims none", "4=21", "DV",
@@ -129,6 +130,9 @@ inline std::vector<Case> nesting_cases() {
       nested("more live Grouped records than lists", "25=bc01000008000000 41=bc01000008000000 57=bc01000008000000",
              "DVT", "the blocks that follow would be given to the wrong records"),
       flat_case("no list behind a Grouped record", lone(kGroups, grouped), "DVT", "it would own what never came"),
+      flat_case("a removed Grouped record before a live one",
+                flat({block(kHead | kGroups, 2, {removed, grouped}), one, block(kLast, 1, {binary(1)})}), "",
+                "it nests no list, the live one does"),
       flat_case("lists nested 129 deep", nested_lists(AAA_ATTR_NESTING_MAX + 1), "DVT",
                 "what reads level by level would need any amount of stack"),
       flat_case("lists nested 128 deep", nested_lists(AAA_ATTR_NESTING_MAX), "", "the limit"),
