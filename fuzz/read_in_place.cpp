@@ -142,10 +142,9 @@ std::vector<std::string> printed(Call call) {
     if (line.empty() || line.find("ttribute list: ") == 1 || line.find("rouped attribute: ") == 1 ||
         line.find("nd of group list: ") == 1)
       continue;
-    if (line.back() == ')') {
-      line.resize(std::min(line.rfind('('), line.size()));
-      while (!line.empty() && std::isdigit(static_cast<unsigned char>(line.back()))) line.pop_back();
-    }
+    const bool has_number = line.back() == ')';
+    while (has_number && !line.empty() && line.back() != '(') line.pop_back();
+    while (has_number && !line.empty() && !std::isalpha(static_cast<unsigned char>(line.back()))) line.pop_back();
     lines.push_back(line);
   }
   std::free(text);
