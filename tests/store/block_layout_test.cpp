@@ -1,6 +1,5 @@
 // The bytes of blocks and records, how a list grows block by block, and where it ends.
 #include <gtest/gtest.h>
-#include <pthread.h>
 
 #include "support/blocks.h"
 #include "support/list_text.h"
@@ -69,24 +68,6 @@ TEST(BlockLayout, ChainEndsAt65535Blocks) {
 
   EXPECT_EQ(aaa_attr_add_or_replace(list, type::kString, "longer", 6, nullptr), AAA_ATTR_ERR_NO_MEMORY);
   EXPECT_EQ(aaa_attr_is_present(list, type::kString), 0) << "the superseded attribute is gone by then";
-}
-
-TEST(BlockLayout, FreeingTakesTheSameStackAtAnyDepth) {
-  constexpr std::size_t kSmallStack = 64 * 1024;
-  aaa_attr_list_handle list = List().release(), innermost = list;
-  for (int level = 0; level < 100'000; ++level)
-    ASSERT_EQ(aaa_attr_add_group_list(innermost, &innermost, type::kGrouped, nullptr), 0u);
-  pthread_attr_t attributes;
-  pthread_attr_init(&attributes);
-  ASSERT_EQ(pthread_attr_setstacksize(&attributes, kSmallStack), 0);
-  pthread_t thread;
-  auto free_list = [](void *handle) -> void * {
-    aaa_attr_list_free(*static_cast<aaa_attr_list_handle *>(handle));
-    return nullptr;
-  };
-  ASSERT_EQ(pthread_create(&thread, &attributes, free_list, &list), 0);
-  EXPECT_EQ(pthread_join(thread, nullptr), 0);
-  pthread_attr_destroy(&attributes);
 }
 
 }  // namespace
