@@ -52,23 +52,16 @@ class TlvDecoder {
   explicit TlvDecoder(const void *owner) : owner_(owner) {}
 
   // Nested bodies are depth levels below the outer one.
-  aaa_attr_cerrno read_body(Reader &reader, BlockView head, unsigned depth) {
+  aaa_attr_cerrno read_body(Reader &reader, BlockView list, unsigned depth) {
     Reader records;
     if (!reader.take_body(&records)) return AAA_ATTR_ERR_BAD_LENGTH;
-    Target list = {head, head};
     while (records.left() >= kTlvRecordSizeMin)
       if (const aaa_attr_cerrno code = read_record(records, list, depth)) return code;
     return records.left() == 0 ? 0 : AAA_ATTR_ERR_BAD_LENGTH;
   }
 
  private:
-  // A list under construction.
-  struct Target {
-    BlockView head;
-    BlockView last;
-  };
-
-  aaa_attr_cerrno read_record(Reader &records, Target &list, unsigned depth) {
+  aaa_attr_cerrno read_record(Reader &records, BlockView list, unsigned depth) {
     NewAttribute attribute{};
     std::uint32_t meta_length;
     if (!records.take_number(&attribute.type)) return AAA_ATTR_ERR_BAD_LENGTH;
@@ -82,17 +75,17 @@ class TlvDecoder {
     if (!records.take_number(&attribute.length)) return AAA_ATTR_ERR_BAD_LENGTH;
     attribute.value = records.take(attribute.length);
     if (attribute.value == nullptr) return AAA_ATTR_ERR_BAD_LENGTH;
-    return add_attribute(list.head, &list.last, attribute);
+    return add_attribute(list, attribute);
   }
 
-  aaa_attr_cerrno read_sub_list(Reader &records, Target &list, NewAttribute attribute, unsigned depth) {
+  aaa_attr_cerrno read_sub_list(Reader &records, BlockView list, NewAttribute attribute, unsigned depth) {
     if (depth == AAA_ATTR_NESTING_MAX) return AAA_ATTR_ERR_BAD_LENGTH;
     List made;
     if (const aaa_attr_cerrno code = create_list(owner_, &made)) return code;
     attribute.value = &made.handle;
     attribute.length = kHandleSize;
     aaa_attr_cerrno code = read_body(records, made.head, depth + 1);
-    if (code == 0) code = add_attribute(list.head, &list.last, attribute);
+    if (code == 0) code = add_attribute(list, attribute);
     if (code != 0) release_list(made.handle);
     return code;
   }

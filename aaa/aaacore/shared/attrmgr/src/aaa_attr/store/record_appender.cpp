@@ -7,12 +7,11 @@ aaa_attr_cerrno copy_long_value(std::byte *to, const void *from, std::size_t len
   return 0;
 }
 
-aaa_attr_cerrno append_to_new_block(BlockView head, BlockView *last, NewAttribute attribute) {
+aaa_attr_cerrno append_to_new_block(BlockView head, NewAttribute attribute) {
   const NewRecord record = measure(attribute);
-  const BlockView block = aaa_attr_list_add_block(head, *last, static_cast<std::size_t>(record.size) + kHeaderSize);
-  if (!block) return AAA_ATTR_ERR_NO_MEMORY;
-  *last = block;
-  return write_record(block, attribute, record);
+  const BlockView block =
+      aaa_attr_list_add_block(head, last_block(head), static_cast<std::size_t>(record.size) + kHeaderSize);
+  return block ? write_record(block, attribute, record) : AAA_ATTR_ERR_NO_MEMORY;
 }
 
 aaa_attr_cerrno add_to_looked_up(aaa_attr_list_handle list, NewAttribute attribute) {

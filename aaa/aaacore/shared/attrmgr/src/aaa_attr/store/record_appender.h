@@ -90,14 +90,14 @@ inline aaa_attr_cerrno write_record(BlockView block, const NewAttribute &attribu
   return copy_value(value, attribute.value, attribute.length);
 }
 
-// The rare half of append_record. *last becomes the new block.
-[[nodiscard]] aaa_attr_cerrno append_to_new_block(BlockView head, BlockView *last, NewAttribute attribute);
+// The rare half of append_record.
+[[nodiscard]] aaa_attr_cerrno append_to_new_block(BlockView head, NewAttribute attribute);
 
 // Appends a checked attribute. AAA_ATTR_ERR_NO_MEMORY: no block could be chained; the list is unchanged.
 [[nodiscard]] inline aaa_attr_cerrno append_record(BlockView head, const NewAttribute &attribute,
                                                    const NewRecord &record) {
-  BlockView block = last_block(head);
-  if (record.size > block.free_bytes()) return append_to_new_block(head, &block, attribute);
+  const BlockView block = last_block(head);
+  if (record.size > block.free_bytes()) return append_to_new_block(head, attribute);
   return write_record(block, attribute, record);
 }
 
@@ -107,16 +107,6 @@ inline aaa_attr_cerrno write_record(BlockView block, const NewAttribute &attribu
   const NewRecord record = measure(attribute);
   if (const aaa_attr_cerrno code = check_length(attribute, record)) return code;
   return append_record(head, attribute, record);
-}
-
-// The same, given the last block, which *last stays: the head's hint does not reach everywhere, and to walk the chain
-// for every attribute of a long list takes time that grows with its square.
-[[nodiscard]] inline aaa_attr_cerrno add_attribute(BlockView head, BlockView *last, const NewAttribute &attribute) {
-  if (const aaa_attr_cerrno code = check_presence(attribute)) return code;
-  const NewRecord record = measure(attribute);
-  if (const aaa_attr_cerrno code = check_length(attribute, record)) return code;
-  if (record.size > last->free_bytes()) return append_to_new_block(head, last, attribute);
-  return write_record(*last, attribute, record);
 }
 
 // The rare half of the next one: the handle has to be looked up.
