@@ -54,23 +54,33 @@ bool has_match(RecordView wanted, RecordsOfType::Iterator candidate) {
   return false;
 }
 
-// Every record that holds a value, from the position on, has a match in the list that the index is of.
-bool values_have_match(Position from, const TypeIndex &index) {
-  for (; *from; ++from)
-    if (!is_grouped(*from) && !has_match(*from, index.records((*from).type()))) return false;
-  return true;
+// Two lists that agree up to the positions `at1` and `at2` and differ there.
+struct Difference {
+  BlockView list1;
+  BlockView list2;
+  Position at1;
+  Position at2;
+};
+
+enum class Matched { kNo, kOneWay, kBothWays };
+
+// Whether every record of the first list that holds a value, from the position on, has a match in the second. Where
+// each type of the second list is there but once, a record that has a match is the match of that match, and the way
+// back is short. Not in line: the index is not to lie on the stack while sub-lists are compared.
+[[gnu::noinline]] Matched match_values(Difference lists) {
+  const TypeIndex index(lists.list2, lists.list1);
+  for (; *lists.at1; ++lists.at1)
+    if (!is_grouped(*lists.at1) && !has_match(*lists.at1, index.records((*lists.at1).type()))) return Matched::kNo;
+  if (!index.unique()) return Matched::kOneWay;
+  for (; *lists.at2; ++lists.at2)
+    if (!is_grouped(*lists.at2) && !index.asked((*lists.at2).type())) return Matched::kNo;
+  return Matched::kBothWays;
 }
 
-// The values of either list, from the positions on, have a match in the other one. Where each type of the second list
-// is there but once, a record of the first one that has a match is the match of that match, and the way back is short.
-// Not in line: the indexes are not to lie on the stack while sub-lists are compared.
-[[gnu::noinline]] bool values_match(Position at1, BlockView list1, Position at2, BlockView list2) {
-  const TypeIndex index2(list2, list1);
-  if (!values_have_match(at1, index2)) return false;
-  if (!index2.unique()) return values_have_match(at2, TypeIndex(list1, list2));
-  for (; *at2; ++at2)
-    if (!is_grouped(*at2) && !index2.asked((*at2).type())) return false;
-  return true;
+bool values_match(const Difference &lists) {
+  const Matched matched = match_values(lists);
+  if (matched != Matched::kOneWay) return matched == Matched::kBothWays;
+  return match_values({lists.list2, lists.list1, lists.at2, lists.at1}) != Matched::kNo;
 }
 
 // Every record that owns a sub-list, from the position on, has a match in the list.
@@ -115,14 +125,6 @@ std::size_t count_grouped(BlockView list) {
   for (const RecordView record : Attributes(list)) grouped += is_grouped(record);
   return grouped;
 }
-
-// Two lists that agree up to the positions `at1` and `at2` and differ there.
-struct Difference {
-  BlockView list1;
-  BlockView list2;
-  Position at1;
-  Position at2;
-};
 
 // Looks for matches of one Grouped record of the first list. `agreed`: it has one, and only records of the second list
 // that have none yet are of interest. False when it has none.
@@ -175,7 +177,8 @@ bool lists_equal(aaa_attr_list_handle handle1, aaa_attr_list_handle handle2) {
     ++at2;
   }
   if (!*at1 && !*at2) return true;
-  return values_match(at1, list1, at2, list2) && grouped_match({list1, list2, at1, at2});
+  const Difference difference{list1, list2, at1, at2};
+  return values_match(difference) && grouped_match(difference);
 }
 
 }  // namespace

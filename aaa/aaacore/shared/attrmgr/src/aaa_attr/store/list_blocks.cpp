@@ -69,7 +69,8 @@ BlockView aaa_attr_list_add_block(BlockView head, BlockView last, std::size_t si
 }
 
 void set_tail(BlockView head, BlockView last) {
-  const std::intptr_t distance = address_of(last) - address_of(head);
+  const BlockView second = head.next();
+  const std::intptr_t distance = second ? address_of(last) - address_of(second) : 0;
   const std::intptr_t units = distance / kTailUnit;
   const bool fits = distance % kTailUnit == 0 && units == static_cast<std::int32_t>(units);
   head.set_reserved(fits ? static_cast<std::int32_t>(units) : 0);

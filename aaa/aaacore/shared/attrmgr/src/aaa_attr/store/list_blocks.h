@@ -22,8 +22,9 @@ struct List {
 // that gives none sets block count and tail itself. Null when memory is exhausted or the head counts 65,535 blocks.
 [[nodiscard]] BlockView aaa_attr_list_add_block(BlockView head, BlockView last, std::size_t size);
 
-// The head remembers where the last block is, as a hint in its reserved word: the distance from the head in units of
-// what malloc aligns to. Everything that changes a chain sets it.
+// The head remembers where the last block is, as a hint in its reserved word: the distance from the second block, in
+// units of what malloc aligns to; 0 when it is too long. Not from the head, which is often of another thread, and so far
+// away: one thread makes a list, another one fills it. Everything that changes a chain sets the hint.
 void set_tail(BlockView head, BlockView last);
 
 inline constexpr std::intptr_t kTailUnit = 16;
@@ -32,7 +33,9 @@ inline constexpr std::intptr_t kTailUnit = 16;
 inline std::intptr_t address_of(BlockView block) { return reinterpret_cast<std::intptr_t>(block.bytes()); }
 
 inline BlockView last_block(BlockView head) {
-  BlockView last(reinterpret_cast<std::byte *>(address_of(head) + head.reserved() * kTailUnit));
+  const BlockView second = head.next();
+  if (!second) return head;
+  BlockView last(reinterpret_cast<std::byte *>(address_of(second) + head.reserved() * kTailUnit));
   while (const BlockView next = last.next()) last = next;
   return last;
 }
