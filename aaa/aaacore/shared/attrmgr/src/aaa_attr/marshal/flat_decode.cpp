@@ -4,9 +4,9 @@
 
 #include <attrmgr/aaa_attr_dict.h>
 
+#include "aaa_attr/store/type_zero.h"
 #include "aaa_attr/store/unwritten.h"
 #include "aaa_attr/walk/flat_reader.h"
-#include "aaa_attr/walk/type_search.h"
 #include "dictionary/type_table.h"
 
 namespace attrmgr {

@@ -23,8 +23,8 @@ struct List {
 [[nodiscard]] BlockView aaa_attr_list_add_block(BlockView head, BlockView last, std::size_t size);
 
 // The head remembers where the last block is, as a hint in its reserved word: the distance from the second block, in
-// units of what malloc aligns to; 0 when it is too long. Not from the head, which is often of another thread, and so far
-// away: one thread makes a list, another one fills it. Everything that changes a chain sets the hint.
+// units of what malloc aligns to; 0 when it is too long. Not from the head, which is often of another thread, and so
+// far away: one thread makes a list, another one fills it. Everything that changes a chain sets the hint.
 void set_tail(BlockView head, BlockView last);
 
 inline constexpr std::intptr_t kTailUnit = 16;

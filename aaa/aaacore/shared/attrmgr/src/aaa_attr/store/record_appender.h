@@ -11,8 +11,8 @@
 
 #include "aaa_attr/store/handle_check.h"
 #include "aaa_attr/store/list_blocks.h"
+#include "aaa_attr/store/type_zero.h"
 #include "aaa_attr/store/views.h"
-#include "aaa_attr/walk/type_search.h"
 #include "dictionary/format_rules.h"
 #include "dictionary/type_table.h"
 

@@ -1,7 +1,8 @@
 #include "aaa_attr/walk/type_search.h"
 
-#include <atomic>
 #include <cstring>
+
+#include "aaa_attr/store/type_zero.h"
 
 namespace attrmgr {
 namespace {
@@ -10,8 +11,6 @@ namespace {
 // searched.
 constexpr std::uint16_t kLowestSearchedType = 128;
 constexpr std::uint16_t kFewRecords = 8;
-
-std::atomic<bool> type_zero_seen{false};
 
 using Bytes [[gnu::vector_size(32)]] = std::uint8_t;
 using Words [[gnu::vector_size(32)]] = std::uint64_t;
@@ -71,10 +70,8 @@ static_assert(kFewRecords * kRecordHeaderSize > sizeof(Bytes));
 
 }  // namespace
 
-void note_type_zero() { type_zero_seen.store(true, std::memory_order_relaxed); }
-
 BlockView next_to_walk(BlockView block, std::uint16_t type) {
-  if (type < kLowestSearchedType || type_zero_seen.load(std::memory_order_relaxed)) return block;
+  if (type < kLowestSearchedType || may_meet_type_zero()) return block;
   return pass_over_fast(block, type);
 }
 

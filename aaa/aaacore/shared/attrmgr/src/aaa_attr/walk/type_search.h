@@ -13,10 +13,6 @@ namespace attrmgr {
 // Null when there is none.
 BlockView next_to_walk(BlockView block, std::uint16_t type);
 
-// Whoever puts a record of type 0 into a list says so. It never happens in earnest; until it does, nothing ends a walk
-// early and blocks may be passed over.
-void note_type_zero();
-
 struct Place {
   BlockView block;
   RecordView record;
