@@ -1,4 +1,4 @@
-// Lower bounds: what the same workloads take when nothing is checked, nothing is a call and everything is known. Blocks
+// The limits: what the same workloads take when nothing is checked, nothing is a call and everything is known. Blocks
 // of 512 bytes from malloc, records written with plain stores, bytes moved by memcpy, and the plain scan, in which a
 // record is found by adding up the lengths before it.
 #include <cstddef>
