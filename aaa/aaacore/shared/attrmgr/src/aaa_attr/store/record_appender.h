@@ -90,14 +90,18 @@ inline aaa_attr_cerrno write_record(BlockView block, const NewAttribute &attribu
   return copy_value(value, attribute.value, attribute.length);
 }
 
-// The rare half of append_record.
-[[nodiscard]] aaa_attr_cerrno append_to_new_block(BlockView head, NewAttribute attribute);
+// The rare half of append_record. It takes the parts of an attribute, as registers do, for the other half to keep it in
+// registers.
+[[nodiscard]] aaa_attr_cerrno append_to_new_block(BlockView head, std::uint32_t type, const void *value,
+                                                  std::uint32_t length, const void *meta, std::uint32_t client_type);
 
 // Appends a checked attribute. AAA_ATTR_ERR_NO_MEMORY: no block could be chained; the list is unchanged.
 [[nodiscard]] inline aaa_attr_cerrno append_record(BlockView head, const NewAttribute &attribute,
                                                    const NewRecord &record) {
   const BlockView block = last_block(head);
-  if (record.size > block.free_bytes()) return append_to_new_block(head, attribute);
+  if (record.size > block.free_bytes())
+    return append_to_new_block(head, attribute.type, attribute.value, attribute.length, attribute.meta,
+                               attribute.client_type);
   return write_record(block, attribute, record);
 }
 
@@ -110,12 +114,15 @@ inline aaa_attr_cerrno write_record(BlockView block, const NewAttribute &attribu
 }
 
 // The rare half of the next one: the handle has to be looked up.
-[[nodiscard]] aaa_attr_cerrno add_to_looked_up(aaa_attr_list_handle list, NewAttribute attribute);
+[[nodiscard]] aaa_attr_cerrno add_to_looked_up(aaa_attr_list_handle list, std::uint32_t type, const void *value,
+                                               std::uint32_t length, const void *meta, std::uint32_t client_type);
 
 [[nodiscard]] inline aaa_attr_cerrno add_attribute(aaa_attr_list_handle list, const NewAttribute &attribute) {
   if (const aaa_attr_cerrno code = check_presence(attribute)) return code;
   const BlockView head = head_at(list);
-  return head ? add_attribute(head, attribute) : add_to_looked_up(list, attribute);
+  if (head) return add_attribute(head, attribute);
+  return add_to_looked_up(list, attribute.type, attribute.value, attribute.length, attribute.meta,
+                          attribute.client_type);
 }
 
 // The length under which a value is reported, compared and handed on: without the NUL of a String.
