@@ -122,7 +122,7 @@ TEST(LongList, IsMergedAsOneByOne) {
   for (std::uint32_t seed = 0; seed < 20; ++seed) {
     const List source = long_list(seed + 100, 80);
     List merged = long_list(seed, 80, kTypes[seed % std::size(kTypes)]);
-    List one_by_one;
+    List one_by_one(0);
     aaa_attr_list_copy(merged, one_by_one.out());
     ASSERT_EQ(aaa_attr_list_merge_with_replace(merged, source), 0);
     walk(source, [&](aaa_cursor *cursor, std::uint32_t type) {
