@@ -134,6 +134,14 @@ TEST(LongList, IsMergedAsOneByOne) {
   }
 }
 
+TEST(LongList, WithoutAttributesIsMergedIntoWhateverItIs) {
+  List source = long_list(1, 20);
+  for (const std::uint32_t type : kTypes) aaa_attr_remove(source, type);
+  constexpr aaa_attr_list_handle kNowhere = 16;
+  EXPECT_EQ(aaa_attr_list_merge_with_replace(kNowhere, source), 0);
+  EXPECT_EQ(aaa_attr_list_merge_double_dip(kNowhere, source), 0);
+}
+
 // The list's attributes in another order.
 List shuffled(const List &list, Random &random) {
   std::vector<std::uint32_t> types;

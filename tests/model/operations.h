@@ -39,6 +39,12 @@ inline List &down(List &list, unsigned depth, unsigned choice) {
   const Attrs subs = all(list, grouped);
   return depth == 0 || subs.empty() ? list : down(subs[choice % subs.size()]->sub[0], depth - 1, choice);
 }
+// The step without attributes of type 0.
+inline Step without_type_zero(Step step) {
+  if (step[9] % 35 == kTypeZeroAt) step[9] = 0;
+  return step;
+}
+
 // What a step comes to. The first values of a field are the frequent ones.
 struct Call {
   // A list and its own sub-lists are not used together.

@@ -9,7 +9,7 @@
 #include <attrmgr/aaa_attr_marshal.h>
 #include <attrmgr/aaa_platform.h>
 
-#include "aaa_attr/store/record_appender.h"
+#include "aaa_attr/store/attribute.h"
 #include "dictionary/type_table.h"
 
 namespace attrmgr {

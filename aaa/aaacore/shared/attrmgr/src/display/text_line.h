@@ -96,7 +96,7 @@ class TextWriter {
   TextWriter &pad(std::size_t size, std::size_t width) {
     if (size >= width) return *this;
     const std::size_t blanks = width - size;
-    if (kBlanks.size() > left()) return put(kBlanks.substr(0, blanks));
+    if (kBlanks.size() > left()) return put(std::string_view(kBlanks.data(), blanks));
     std::memcpy(at_, kBlanks.data(), kBlanks.size());
     return advance(blanks);
   }

@@ -3,7 +3,7 @@
 #include <attrmgr/aaa_attr_dict.h>
 #include <attrmgr/aaa_cursor.h>
 
-#include "aaa_attr/store/record_appender.h"
+#include "aaa_attr/store/attribute.h"
 #include "aaa_attr/walk/cursor_step.h"
 #include "dictionary/type_table.h"
 

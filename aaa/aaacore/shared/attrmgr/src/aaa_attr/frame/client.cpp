@@ -13,9 +13,17 @@ constexpr std::uint32_t kTableInitial = 256;
 constexpr std::uint32_t kTableMaximum = 4096;
 constexpr char kTableName[] = "AAA Attribute List handle IDs";
 
+// One registration a process; identifiers and name are kept for whoever inspects the process.
+struct Client {
+  bool registered;
+  std::uint16_t ids[2];
+  const char *name;
+  std::uint16_t handle_table;
+} client;
+
 }  // namespace
 
-Client client;
+std::uint16_t handle_table() { return client.handle_table; }
 
 }  // namespace attrmgr
 

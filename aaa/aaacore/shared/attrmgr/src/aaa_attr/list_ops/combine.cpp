@@ -98,10 +98,12 @@ template <class WriteFor>
   return take_over_each(combination, from, write_for);
 }
 
-// A search for each of few records is done before an index is made.
-bool has_few_records(BlockView list) {
+// A search for each of few records is done before an index is made; and for none, the destination is not even looked
+// at.
+bool index_pays(BlockView source) {
   constexpr std::uint16_t kFewRecords = 4;
-  return !list.next() && list.record_count() <= kFewRecords;
+  const bool few = !source.next() && source.record_count() <= kFewRecords;
+  return !few && *Attributes(source).begin();
 }
 
 template <class WriteFor>
@@ -113,7 +115,7 @@ aaa_attr_cerrno take_over_all(aaa_attr_list_handle destination, aaa_attr_list_ha
   if (destination == source) return AAA_ATTR_ERR_BAD_ARG;
   const Combination combination{destination, client_type, owner, nullptr};
   BlockView to;
-  if (WriteFor::kReplaces && !has_few_records(from) && resolve(destination, &to) == 0)
+  if (WriteFor::kReplaces && index_pays(from) && resolve(destination, &to) == 0)
     return take_over_each_by_index(combination, to, from, write_for);
   return take_over_each(combination, from, write_for);
 }

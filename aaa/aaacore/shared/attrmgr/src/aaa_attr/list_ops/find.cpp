@@ -3,8 +3,8 @@
 #include <attrmgr/aaa_attr_dict.h>
 
 #include "aaa_attr/list_ops/search.h"
+#include "aaa_attr/store/attribute.h"
 #include "aaa_attr/store/handle_check.h"
-#include "aaa_attr/store/record_appender.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include <cstring>
 
-#include "aaa_attr/store/record_appender.h"
+#include "aaa_attr/store/attribute.h"
 
 namespace attrmgr {
 

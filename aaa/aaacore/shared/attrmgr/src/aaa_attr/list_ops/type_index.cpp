@@ -23,7 +23,7 @@ void TypeIndex::note(Place place) {
     return;
   }
   known_.insert(type);
-  first_[type].value = place;
+  first_[type].write(place);
 }
 
 RecordsOfType::Iterator TypeIndex::records(std::uint16_t type) const {

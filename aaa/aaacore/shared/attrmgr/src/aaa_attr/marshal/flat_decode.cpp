@@ -41,10 +41,10 @@ class FlatDecoder {
 
   // The block that receives what the reader stands on.
   aaa_attr_cerrno make_block(BlockView *to) {
-    Level &level = levels_[reader_.depth()].value;
     if (!reader_.starts_list()) {
       const std::size_t record_bytes = reader_.block().used() - reader_.header_size();
-      *to = aaa_attr_list_add_block(BlockView(), level.last, kHeaderSize + record_bytes);
+      const BlockView last = levels_[reader_.depth()].value.last;
+      *to = aaa_attr_list_add_block(BlockView(), last, kHeaderSize + record_bytes);
       return *to ? 0 : AAA_ATTR_ERR_NO_MEMORY;
     }
     List made = outer_;
@@ -52,7 +52,8 @@ class FlatDecoder {
       if (const aaa_attr_cerrno code = create_checked_list(owner_, &made)) return code;
       hand_over(made.handle, levels_[reader_.depth() - 1].value.records);
     }
-    level.head = *to = made.head;
+    levels_[reader_.depth()].write({made.head, made.head, {}});
+    *to = made.head;
     return 0;
   }
 

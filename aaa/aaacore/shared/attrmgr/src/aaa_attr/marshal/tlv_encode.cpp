@@ -6,8 +6,8 @@
 #include <attrmgr/aaa_attr_marshal.h>
 
 #include "aaa_attr/marshal/tlv_format.h"
+#include "aaa_attr/store/attribute.h"
 #include "aaa_attr/store/handle_check.h"
-#include "aaa_attr/store/record_appender.h"
 #include "aaa_attr/walk/list_walk.h"
 
 namespace {

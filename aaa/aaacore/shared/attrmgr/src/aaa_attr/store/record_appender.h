@@ -9,6 +9,7 @@
 #include <attrmgr/aaa_attr_dict.h>
 #include <attrmgr/aaa_attr_types.h>
 
+#include "aaa_attr/store/attribute.h"
 #include "aaa_attr/store/handle_check.h"
 #include "aaa_attr/store/list_blocks.h"
 #include "aaa_attr/store/type_zero.h"
@@ -17,15 +18,6 @@
 #include "dictionary/type_table.h"
 
 namespace attrmgr {
-
-// An attribute as a caller hands it over.
-struct NewAttribute {
-  std::uint32_t type;
-  const void *value;
-  std::uint32_t length;
-  const void *meta;  // kMetaSize bytes, or null
-  std::uint32_t client_type;
-};
 
 // The record that an attribute becomes, measured.
 struct NewRecord {
@@ -55,7 +47,8 @@ inline NewRecord measure(const NewAttribute &attribute) {
   return suits && record.size <= kBlockSizeMax - kHeaderSize ? 0 : AAA_ATTR_ERR_BAD_ARG;
 }
 
-// Copies a value and returns 0. Numbers and addresses, two attributes of three, need no call for it.
+// Copies a value and returns 0, the code of what ends with it: so the call for a long one is a jump. Numbers and
+// addresses, two attributes of three, need no call.
 aaa_attr_cerrno copy_long_value(std::byte *to, const void *from, std::size_t length);
 
 inline aaa_attr_cerrno copy_value(std::byte *to, const void *from, std::size_t length) {
@@ -90,8 +83,8 @@ inline aaa_attr_cerrno write_record(BlockView block, const NewAttribute &attribu
   return copy_value(value, attribute.value, attribute.length);
 }
 
-// The rare half of append_record. It takes the parts of an attribute, as registers do, for the other half to keep it in
-// registers.
+// The rare half of append_record. An attribute handed over by reference would have to lie in memory on the usual way,
+// too: it is handed over in its parts, in registers.
 [[nodiscard]] aaa_attr_cerrno append_to_new_block(BlockView head, std::uint32_t type, const void *value,
                                                   std::uint32_t length, const void *meta, std::uint32_t client_type);
 
@@ -123,21 +116,6 @@ inline aaa_attr_cerrno write_record(BlockView block, const NewAttribute &attribu
   if (head) return add_attribute(head, attribute);
   return add_to_looked_up(list, attribute.type, attribute.value, attribute.length, attribute.meta,
                           attribute.client_type);
-}
-
-// The length under which a value is reported, compared and handed on: without the NUL of a String.
-inline std::uint32_t reported_length(std::uint32_t stored_length, std::uint32_t format) {
-  return format == AAA_ATTR_FMT_STRING && stored_length > 0 ? stored_length - 1 : stored_length;
-}
-
-inline std::uint32_t reported_length(RecordView record) {
-  return reported_length(record.length(), format_of(record.type()));
-}
-
-// The attribute that a record holds, as adding it to another list takes it.
-inline NewAttribute attribute_of(RecordView record) {
-  return {record.type(), record.value(), reported_length(record), record.has_meta() ? record.meta_bytes() : nullptr,
-          record.client_type()};
 }
 
 }  // namespace attrmgr

@@ -1,5 +1,6 @@
-// Whether a list of this process may hold a record of type 0, at which a client's walk ends. It never happens in
-// earnest; until it does, who looks for something else may pass over blocks without looking for that too.
+// Whether a list of this process, made by this copy of the library, may hold a record of type 0, at which a client's
+// walk ends. It never happens in earnest; until it does, who looks for something else may pass over blocks without
+// looking for that too.
 #pragma once
 
 #include <atomic>

@@ -95,7 +95,7 @@ typename FlatReader<Form>::Survey FlatReader<Form>::survey() const {
       ++found.live_grouped;
       if (kHoldToPromises) broken |= record.length() != kHandleSize;
     } else if (promise == Promise::kEnd) {
-      found.any_type_zero = true;
+      found.any_type_zero |= !record.deleted();
     } else if (kHoldToPromises && !record.deleted()) {
       broken |= record.length() == 0 || scan.behind()[-1] != std::byte{0};
     }

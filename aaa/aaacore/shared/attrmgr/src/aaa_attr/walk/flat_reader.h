@@ -42,7 +42,7 @@ class FlatReader {
   std::size_t header_size() const { return header_size_; }
   BasicRecordScan<Form> records() const { return BasicRecordScan<Form>(block_, header_size_); }
   bool starts_list() const { return starts_list_; }
-  // Of the block, removed records included.
+  // From kWhole on: whether the block has Grouped records, be they removed, and live ones of type 0.
   bool has_grouped() const { return survey_.any_grouped; }
   bool has_type_zero() const { return survey_.any_type_zero; }
   unsigned depth() const { return depth_ - 1; }  // 0 for the outer list
@@ -58,7 +58,7 @@ class FlatReader {
   struct Survey {
     bool sound;                  // the records are as many as counted, fill the block and keep what is promised of them
     bool any_grouped;            // there are Grouped records, be they removed
-    bool any_type_zero;          // there are records of type 0, be they removed
+    bool any_type_zero;          // there are live records of type 0
     std::uint16_t live_grouped;  // those that own a nested list
   };
 

@@ -2,7 +2,9 @@
 //
 //   for (RecordView record : RecordsOfType(head, type))   those of Attributes(head) that have the type
 //
-// Blocks behind the first are not walked before a vector search has found the two bytes of the type somewhere in them.
+// A block of many records is walked only when a vector search has found the two bytes of the type somewhere in it. The
+// search is a filter: it looks at values too, and what it finds there, or finds of bytes that nobody has written, costs
+// a walk and changes no answer.
 #pragma once
 
 #include "aaa_attr/walk/list_walk.h"
