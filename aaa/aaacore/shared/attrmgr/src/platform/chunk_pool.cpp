@@ -1,5 +1,6 @@
-// Pools of fixed-size elements. A pool is a few shards, each with a lock and a free list of its own; a thread sticks to
-// one shard, so that threads seldom meet; a thread whose shard is empty takes from the others before the pool grows.
+// Pools of fixed-size elements. A pool is a few shards, each with a lock and a free list of its own. A thread sticks to
+// one shard until it meets another thread there, and then to the next: so they go apart for good. A thread whose shard
+// is empty takes from the others before the pool grows.
 // Memory is taken a chunk at a time and given back when the pool is destroyed.
 #include <pthread.h>
 
@@ -35,24 +36,47 @@ struct alignas(kCacheLine) Shard {
   Chunk *chunks = nullptr;
 };
 
+std::atomic<unsigned> threads_seen{0};
+
+// The shard that the calling thread uses, of whatever pool.
+unsigned &own_shard() {
+  // A fixed place in each thread's own storage: no call into the dynamic linker.
+  constexpr unsigned kNone = kShards;
+  [[gnu::tls_model("initial-exec")]] thread_local constinit unsigned shard = kNone;
+  if (shard == kNone) shard = threads_seen.fetch_add(1, std::memory_order_relaxed) % kShards;
+  return shard;
+}
+
+// A shard, locked as long as this lives.
 class Locked {
  public:
-  explicit Locked(Shard &shard) : lock_(&shard.lock) { pthread_mutex_lock(lock_); }
-  ~Locked() { pthread_mutex_unlock(lock_); }
+  explicit Locked(Shard &shard) : shard_(shard) { pthread_mutex_lock(&shard_.lock); }
+  // The thread's own one, or the first behind it that nobody holds, which is its own from now on.
+  explicit Locked(Shard (&shards)[kShards]) : shard_(lock_own(shards)) {}
+  ~Locked() { pthread_mutex_unlock(&shard_.lock); }
   Locked(const Locked &) = delete;
   Locked &operator=(const Locked &) = delete;
 
+  Shard *operator->() const { return &shard_; }
+
  private:
-  pthread_mutex_t *lock_;
+  static Shard &lock_own(Shard (&shards)[kShards]) {
+    unsigned &own = own_shard();
+    for (unsigned tries = 0; tries < kShards; ++tries) {
+      if (pthread_mutex_trylock(&shards[own].lock) == 0) return shards[own];
+      own = (own + 1) % kShards;
+    }
+    pthread_mutex_lock(&shards[own].lock);
+    return shards[own];
+  }
+
+  Shard &shard_;
 };
 
-std::atomic<unsigned> threads_seen{0};
-
-unsigned shard_of_this_thread() {
-  // A fixed place in each thread's own storage: no call into the dynamic linker.
-  [[gnu::tls_model("initial-exec")]] thread_local constinit unsigned shard_plus_one = 0;
-  if (shard_plus_one == 0) shard_plus_one = threads_seen.fetch_add(1, std::memory_order_relaxed) % kShards + 1;
-  return shard_plus_one - 1;
+FreeElement *take(const Locked &shard) {
+  FreeElement *element = shard->free;
+  if (element != nullptr) shard->free = element->next;
+  return element;
 }
 
 }  // namespace
@@ -62,20 +86,13 @@ struct chunk_pool {
   std::size_t elements_per_chunk;
   Shard shards[kShards];
 
-  static FreeElement *take(Shard &shard) {
-    const Locked locked(shard);
-    FreeElement *element = shard.free;
-    if (element != nullptr) shard.free = element->next;
-    return element;
-  }
-
-  bool grow(Shard &shard) {
+  bool grow() {
     char *memory = static_cast<char *>(std::malloc(kChunkHeader + element_size * elements_per_chunk));
     if (memory == nullptr) return false;
-    const Locked locked(shard);
-    shard.chunks = new (memory) Chunk{shard.chunks};
+    const Locked own(shards);
+    own->chunks = new (memory) Chunk{own->chunks};
     for (std::size_t i = elements_per_chunk; i > 0; --i)
-      shard.free = new (memory + kChunkHeader + (i - 1) * element_size) FreeElement{shard.free};
+      own->free = new (memory + kChunkHeader + (i - 1) * element_size) FreeElement{own->free};
     return true;
   }
 };
@@ -92,19 +109,18 @@ struct chunk_pool {
 
 [[gnu::weak]] void *chunk_malloc(chunk_pool *pool) {
   if (pool == nullptr) return nullptr;
-  const unsigned own = shard_of_this_thread();
   do {
-    for (unsigned i = 0; i < kShards; ++i)
-      if (FreeElement *element = chunk_pool::take(pool->shards[(own + i) % kShards])) return element;
-  } while (pool->grow(pool->shards[own]));
+    if (FreeElement *element = take(Locked(pool->shards))) return element;
+    for (Shard &shard : pool->shards)
+      if (FreeElement *element = take(Locked(shard))) return element;
+  } while (pool->grow());
   return nullptr;
 }
 
 [[gnu::weak]] void chunk_free(chunk_pool *pool, void *element) {
   if (pool == nullptr || element == nullptr) return;
-  Shard &shard = pool->shards[shard_of_this_thread()];
-  const Locked locked(shard);
-  shard.free = new (element) FreeElement{shard.free};
+  const Locked own(pool->shards);
+  own->free = new (element) FreeElement{own->free};
 }
 
 [[gnu::weak]] void chunk_destroy(chunk_pool *pool) {
