@@ -19,10 +19,9 @@ struct Output {
 };
 
 void hand_attribute(const Output &output, RecordView record, std::uint64_t number, RenderMode mode) {
-  TextLine<kLineSize> text;
-  aaa_attr_to_string(record, text, mode);
   TextLine<kNumberedLineSize> line;
-  line.put("\n").put_decimal(number).put(":  ").put(text.view());
+  line.put("\n").put_decimal(number).put(":  ");
+  put_line<kLineSize>(line, [record, mode](TextWriter &text) { aaa_attr_to_string(record, text, mode); });
   output.hand(line);
 }
 

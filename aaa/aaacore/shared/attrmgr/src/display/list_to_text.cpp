@@ -44,9 +44,9 @@ void write_list(aaa_attr_list_handle list, Space &space) {
     if (!is_shown(record)) continue;
     ++number;
     space.write([record, number](TextWriter &text) {
-      TextLine<kLineSize> line;
-      aaa_attr_to_string(record, line, RenderMode::kList);
-      text.put("\n").put_decimal(number).put(":  ").put(line.view()).put("\n");
+      text.put("\n").put_decimal(number).put(":  ");
+      put_line<kLineSize>(text, [record](TextWriter &line) { aaa_attr_to_string(record, line, RenderMode::kList); });
+      text.put("\n");
     });
     aaa_attr_list_handle sub_list;
     if (!nests_list(record, &sub_list) || !space.left()) continue;

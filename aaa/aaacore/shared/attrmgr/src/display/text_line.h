@@ -50,6 +50,10 @@ class TextWriter {
     return put('-').put_decimal(static_cast<std::uint64_t>(-(number + 1)) + 1);
   }
 
+  // A writer of so many bytes behind the text, which takes over afterwards what that one wrote.
+  TextWriter rest(std::size_t size) { return {at_, size}; }
+  void take(const TextWriter &written) { advance(written.length()); }
+
   // Two lowercase hexadecimal digits.
   TextWriter &put_hex_byte(std::uint8_t byte) {
     constexpr char kDigits[] = "0123456789abcdef";
@@ -120,6 +124,20 @@ class TextLine : public TextWriter {
  private:
   char storage_[N];
 };
+
+// Puts what write(line) writes into a line of N: in place where a whole one finds room, so that it need not be copied.
+template <std::size_t N, class Write>
+void put_line(TextWriter &text, Write write) {
+  if (text.room() >= N) {
+    TextWriter line = text.rest(N);
+    write(line);
+    text.take(line);
+  } else {
+    TextLine<N> line;
+    write(line);
+    text.put(line.view());
+  }
+}
 
 // The lengths of the displays' lines, NUL included.
 inline constexpr std::size_t kLineSize = 256;
