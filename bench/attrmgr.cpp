@@ -43,6 +43,12 @@ class Attrmgr {
     return aaa_attr_list_to_buffer(list, buffer, &length) == 0 ? length : 0;
   }
 
+  static std::size_t size_and_encode(List list, std::byte *buffer, std::size_t) {
+    std::uint32_t length = 0;
+    aaa_attr_list_to_buffer_v1(list, nullptr, &length);
+    return aaa_attr_list_to_buffer_v1(list, buffer, &length) == 0 ? length : 0;
+  }
+
   static List decode(const std::byte *bytes, std::size_t size) {
     List list = 0;
     aaa_attr_buffer_to_list(bytes, static_cast<std::uint32_t>(size), &list);

@@ -82,7 +82,7 @@ COUNTED std::uint32_t counted_name_to_number(const char *name) { return aaa_attr
 int main(int argc, char **argv) {
   if (argc != 2) return 2;
   const std::size_t count = std::stoul(argv[1]);
-  const Attributes attributes = bench::attributes(count);
+  const Attributes attributes = bench::attributes(count, 0);
   build(attributes);  // the allocator grows outside the counts
 
   const List list = counted_build(attributes);
@@ -93,8 +93,8 @@ int main(int argc, char **argv) {
   const List tlv_decoded = counted_decode_tlv(counted_encode_tlv(list));
   ok = ok && aaa_attr_list_eq(list, decoded) != 0 && aaa_attr_list_eq(list, tlv_decoded) != 0;
 
-  const List newer = build(bench::attributes(count, count / 2, 1));
-  counted_merge(decoded, build(bench::merged_in()));
+  const List newer = build(bench::attributes(count, 0, count / 2, 1));
+  counted_merge(decoded, build(bench::merged_in(0)));
   counted_remove(tlv_decoded, newer);
   std::vector<char> text(200 * count);
   counted_render(same, text.data(), static_cast<std::int32_t>(text.size()));

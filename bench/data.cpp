@@ -40,28 +40,43 @@ constexpr std::uint32_t format_for(Kind kind) {
   }
 }
 
-// The types of a kind in the order in which the sequence takes them.
+// The types of a kind, in number order.
 std::vector<std::uint32_t> types_of(Kind kind) {
   std::vector<std::uint32_t> types;
   for (std::uint32_t type = 1; type < AAA_ATTR_TYPE_COUNT; ++type)
     if (aaa_attr_get_format_from_type(type) == format_for(kind) && type != kWantedType && type != kMissingType)
       types.push_back(type);
-  Random(static_cast<std::uint32_t>(kind)).shuffle(types);
   return types;
 }
 
-// Which kind comes when, for 20 attributes; then it begins again.
-const std::vector<Kind> &pattern() {
-  static const std::vector<Kind> kinds = [] {
-    std::vector<Kind> made(20, Kind::kNumber);
-    std::fill_n(made.begin(), 5, Kind::kText);
-    std::fill_n(made.begin() + 5, 3, Kind::kAddress);
-    std::fill_n(made.begin() + 8, 2, Kind::kOctets);
-    Random(20).shuffle(made);
-    return made;
-  }();
-  return kinds;
-}
+// The kinds and types of a list's attributes, one after another. Of 20 attributes in a row, 10 are numbers, 5 texts,
+// 3 addresses and 2 octets.
+class Sequence {
+ public:
+  explicit Sequence(std::uint32_t list) : random_(list) {
+    static const std::array<std::vector<std::uint32_t>, 4> in_order = {
+        types_of(Kind::kNumber), types_of(Kind::kText), types_of(Kind::kAddress), types_of(Kind::kOctets)};
+    types_ = in_order;
+    for (std::vector<std::uint32_t> &types : types_) random_.shuffle(types);
+    std::fill_n(kinds_.begin(), 5, Kind::kText);
+    std::fill_n(kinds_.begin() + 5, 3, Kind::kAddress);
+    std::fill_n(kinds_.begin() + 8, 2, Kind::kOctets);
+  }
+
+  std::pair<Kind, std::uint32_t> next() {
+    if (taken_ % kinds_.size() == 0) random_.shuffle(kinds_);
+    const Kind kind = kinds_[taken_++ % kinds_.size()];
+    const auto k = static_cast<std::size_t>(kind);
+    return {kind, types_[k][used_[k]++ % types_[k].size()]};
+  }
+
+ private:
+  Random random_;
+  std::array<std::vector<std::uint32_t>, 4> types_;
+  std::vector<Kind> kinds_ = std::vector<Kind>(20, Kind::kNumber);
+  std::array<std::size_t, 4> used_{};
+  std::size_t taken_ = 0;
+};
 
 std::string octets_of(std::uint32_t number) {
   std::string bytes(sizeof number, '\0');
@@ -92,23 +107,22 @@ Attribute make(Kind kind, std::uint32_t type, Random &random) {
 
 }  // namespace
 
-Attributes attributes(std::size_t count, std::size_t first, unsigned round) {
-  static const std::array<std::vector<std::uint32_t>, 4> types = {types_of(Kind::kNumber), types_of(Kind::kText),
-                                                                  types_of(Kind::kAddress), types_of(Kind::kOctets)};
-  Random random(round);
-  std::array<std::size_t, 4> used{};
+Attributes attributes(std::size_t count, std::size_t list, std::size_t first, unsigned round) {
+  constexpr std::uint32_t kRounds = 2;
+  const auto number = static_cast<std::uint32_t>(list);
+  Sequence sequence(number);
+  Random values(number * kRounds + round + 1);
   Attributes made;
   for (std::size_t i = 0; i < first + count; ++i) {
-    const Kind kind = pattern()[i % pattern().size()];
-    const auto k = static_cast<std::size_t>(kind);
-    Attribute attribute = make(kind, types[k][used[k]++ % types[k].size()], random);
+    const auto [kind, type] = sequence.next();
+    Attribute attribute = make(kind, type, values);
     if (i >= first) made.push_back(std::move(attribute));
   }
   return made;
 }
 
-Attributes attributes_with_wanted(std::size_t count, std::size_t place) {
-  Attributes made = attributes(count);
+Attributes attributes_with_wanted(std::size_t count, std::size_t place, std::size_t list) {
+  Attributes made = attributes(count, list);
   made[place] = {kWantedType, Kind::kNumber, 1, octets_of(1)};
   return made;
 }
@@ -124,33 +138,33 @@ const std::vector<Sample> &samples() {
   return all;
 }
 
-Attributes merged_in() { return attributes(32, 112, 1); }
+Attributes merged_in(std::size_t list) { return attributes(32, list, 112, 1); }
 
-Attributes after_merge() {
-  Attributes made = attributes(128);
-  for (const Attribute &newer : merged_in()) {
+Attributes after_merge(std::size_t list) {
+  Attributes made = attributes(128, list);
+  for (const Attribute &newer : merged_in(list)) {
     std::erase_if(made, [&newer](const Attribute &old) { return old.type == newer.type; });
     made.push_back(newer);
   }
   return made;
 }
 
-Attributes removed() {
-  const Attributes all = attributes(128);
+Attributes removed(std::size_t list) {
+  const Attributes all = attributes(128, list);
   Attributes made;
   for (std::size_t i = 0; i < all.size(); i += 4) made.push_back(all[i]);
   return made;
 }
 
-Attributes after_remove() {
-  Attributes made = attributes(128);
-  for (const Attribute &unwanted : removed())
+Attributes after_remove(std::size_t list) {
+  Attributes made = attributes(128, list);
+  for (const Attribute &unwanted : removed(list))
     std::erase_if(made, [&unwanted](const Attribute &a) { return a.type == unwanted.type; });
   return made;
 }
 
-Attributes shuffled(Attributes attributes) {
-  Random(7).shuffle(attributes);
+Attributes shuffled(Attributes attributes, std::size_t list) {
+  Random(static_cast<std::uint32_t>(list)).shuffle(attributes);
   return attributes;
 }
 

@@ -26,7 +26,7 @@ void cursor_cycle(benchmark::State &state) {
 
 // What a message costs at both ends: a list of 32 attributes is built, encoded, freed, decoded and freed.
 void exchange(benchmark::State &state) {
-  const bench::Attributes attributes = bench::attributes(32);
+  const bench::Attributes attributes = bench::attributes(32, 0);
   std::byte buffer[4096];
   while (state.KeepRunning()) {
     aaa_attr_list_handle list = 0;

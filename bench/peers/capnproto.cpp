@@ -25,7 +25,7 @@ using bench::cp::AttrList;
 
 using Attrs = capnp::List<Attr>;
 
-constexpr capnp::uint kWordsPerAttribute = 4;  // as they are in the data of the benchmarks
+constexpr capnp::uint kWordsPerAttribute = 6;  // in a list of many texts; a message of one segment
 constexpr capnp::uint kWordsPerList = 4;
 
 bool has(Attrs::Reader attrs, std::uint32_t type) {
