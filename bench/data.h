@@ -40,6 +40,9 @@ Attributes attributes(std::size_t count, std::size_t list, std::size_t first = 0
 // `count` attributes of a list, in which the one at `place` has the type kWantedType, which no other has.
 Attributes attributes_with_wanted(std::size_t count, std::size_t place, std::size_t list);
 
+// `count` attributes of a list, one of which is a password. No other list holds a secret.
+Attributes attributes_with_secret(std::size_t count, std::size_t list);
+
 inline constexpr std::uint32_t kWantedType = 307;   // "pppoe-session-id"
 inline constexpr std::uint32_t kMissingType = 308;  // "igmp-query-interval"; never in any list
 

@@ -175,6 +175,15 @@ class Workloads {
             Subject::destroy(list);
           });
         });
+      add("build_secret/32", [](benchmark::State &state) {
+        std::vector<Attributes> data;
+        for (std::size_t i = 0; i < num_lists(32); ++i) data.push_back(attributes_with_secret(32, i));
+        go_round(state, data.size(), [&data](std::size_t i) {
+          List list = Subject::build(data[i]);
+          keep(list);
+          Subject::destroy(list);
+        });
+      });
       add("memory/32", [](benchmark::State &state) {
         const std::vector<Attributes> data = data_of(32);
         for (auto _ : state) {
