@@ -18,7 +18,7 @@ TEST(BlockLayout, RecordsArePackedBehindTheHeader) {
   EXPECT_EQ(Block(list).bytes(), hex(R"(
     cd ab 01 27              # a Grouped record came
     01 00 04 00 ad 01 53 00  # the removed record still counts
-    00 00 00 00
+    01 00 00 00              # the library's own word: coalescing has something to do
     00 00 00 00 00 00 00 00
     02 00 15 00 04 00 00 00  # type 2, producer client type 5 and meta, length
     03 07 0b 0a 01 80 0d 0c  # service, protocol, tag, flags, client

@@ -33,6 +33,8 @@ class Reading {
   bool decodable() const { return decodable_; }
   bool valid() const { return decodable_ && read_in_place_; }
   bool translatable() const { return decodable_; }
+  // A list of no blocks stays in the form that it is in, and so its buffer does not come back from the other one.
+  bool has_empty_list() const { return has_empty_list_; }
 
   // All records in the order in which they lie, and those of each list; list 0 is the outer one.
   const std::vector<Record> &records() const { return records_; }
@@ -61,15 +63,22 @@ class Reading {
   bool list(unsigned depth, std::size_t list_number) {
     if (depth > AAA_ATTR_NESTING_MAX) return false;
     std::uint64_t blocks = 1;
+    std::size_t first_header = 0;
     for (std::uint64_t i = 0; i < blocks; ++i) {
       if (size_ - at_ < 12) return false;
       const unsigned flags = bytes_[at_ + 3];
       const bool first = i == 0, head = (flags & kHead) != 0;
       const std::size_t header = (flags & kLayout) == kForeign ? 16 : 24;
-      const std::size_t used = number(at_ + 10, 2);
-      if (number(at_, 2) != 0xABCD || used < header || used > size_ - at_) return false;
+      if (number(at_, 2) != 0xABCD) return false;
       if (first && (head || !translation_)) blocks = number(at_ + 4, 2);  // else a list of one block
-      if (blocks == 0) return false;
+      if (blocks == 0) {
+        has_empty_list_ = true;
+        return translation_;  // to which there is nothing of it
+      }
+      if (first) first_header = header;
+      if (translation_ && header != first_header) return false;
+      const std::size_t used = number(at_ + 10, 2);
+      if (used < header || used > size_ - at_) return false;
       const bool last = i + 1 == blocks;
       const bool chained = first == head && (!last || (flags & kLast) != 0);
       if (!translation_ && (!chained || used - header > (first ? kHeadRoom : kRoom))) return false;
@@ -131,7 +140,7 @@ class Reading {
   const std::uint8_t *bytes_;
   std::size_t size_, at_ = 1;
   bool translation_;
-  bool decodable_ = false, read_in_place_;
+  bool decodable_ = false, read_in_place_, has_empty_list_ = false;
   std::vector<Record> records_;
   std::vector<std::vector<std::size_t>> lists_;
 };

@@ -67,6 +67,12 @@ inline Bytes chained(unsigned flags, const Bytes &record) {
   return flat({block(kHead | flags, 2, {}), block(kLast | flags, 1, {record})});
 }
 
+// A native block and a foreign one.
+inline Bytes mixed() {
+  const Bytes number = record(type::kUlong, "abcd");
+  return flat({block(kHead, 2, {number}), block(kLast | kForeignHeader, 1, {number})});
+}
+
 inline Bytes binary(std::size_t length) { return record(type::kBinary, std::string(length, 'x')); }
 
 inline std::vector<Case> block_cases() {
@@ -110,11 +116,13 @@ inline std::vector<Case> record_cases() {
 
 inline std::vector<Case> chain_cases() {
   return {
-      nested("a list of no blocks", "5=0000", "DVT", "the block that says so is one"),
+      nested("a list of no blocks", "5=0000", "DV", "the block that says so is one; there is nothing to translate"),
       nested("a list of more blocks than there are", "5=0300", "DVT", "the third would be read behind the buffer"),
       nested("a first block that is no head", "4=24", "DV", "only a head says how many blocks there are"),
       nested("a second head in the chain", "112=27", "DV", "a nested list that nobody owns, or a block of this one?"),
       nested("a last block without the last flag", "112=24", "DV", "count and flags name different ends"),
+      flat_case("blocks of both layouts", mixed(), "VT",
+                "the translation takes the layout of a list's first block for all"),
   };
 }
 
@@ -164,7 +172,7 @@ inline std::vector<Case> network_cases() {
       network("a record more than there are", "7=0004", "DVT", "as in host form"),
       network("a length that wraps to a small record in 32 bits", "29=fffffff4", "DVT", "as in host form"),
       network("a meta that is not there, in the last record", "151=80", "DVT", "as in host form"),
-      network("a list of no blocks", "5=0000", "DVT", "as in host form"),
+      network("a list of no blocks", "5=0000", "DV", "as in host form"),
       network("a Grouped value of no bytes", "49=00000000 53=001e000000000000 7=0004", "DVT", "as in host form"),
       network("a Boolean of 4 bytes", "149=0019", "DVT", "as in host form"),
       network("an Enum of 12 bytes", "25=0003 27=00 29=0000000c", "DVT", "as in host form"),

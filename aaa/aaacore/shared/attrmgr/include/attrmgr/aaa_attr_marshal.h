@@ -87,8 +87,11 @@ AAA_API aaa_attr_cerrno aaa_attr_buffer_scrub(void *buffer, uint32_t length);
    Flat buffers are written in the host's byte order. A buffer for a host of the other order is translated to network
    form (big-endian integers, flag bits from the top down), and back where it arrives. It does not tell which form it
    is in, but a second translation in the same direction is refused. */
-typedef enum cdm_endian_tran_type {
-  CDM_ENDIAN_TRAN_HTON = 1, /* host form to network form */
+typedef enum cdm_endian_tran_type
+#ifdef __cplusplus
+    : int /* as wide as in C, where any number may be passed */
+#endif
+{ CDM_ENDIAN_TRAN_HTON = 1, /* host form to network form */
   CDM_ENDIAN_TRAN_NTOH = 2  /* network form to host form */
 } cdm_endian_tran_type;
 

@@ -76,20 +76,21 @@ constexpr std::array<std::uint8_t, AAA_ATTR_TYPE_COUNT> formats() {
   return column;
 }
 
-constexpr std::array<Promise, AAA_ATTR_TYPE_COUNT> promises() {
-  std::array<Promise, AAA_ATTR_TYPE_COUNT> column{};
-  for (std::size_t i = 0; i < column.size(); ++i) {
-    if (kFormatRules.nul(kTypes[i].format) != 0) column[i] = Promise::kNul;
-    if (kTypes[i].format == AAA_ATTR_FMT_GROUPED) column[i] = Promise::kSubList;
+constexpr std::array<std::uint8_t, AAA_ATTR_TYPE_COUNT + 1> type_traits() {
+  std::array<std::uint8_t, AAA_ATTR_TYPE_COUNT + 1> column{};
+  for (std::size_t i = 0; i < std::size(kTypes); ++i) {
+    if (kFormatRules.nul(kTypes[i].format) != 0) column[i] |= kEndsInNul;
+    if (kTypes[i].format == AAA_ATTR_FMT_GROUPED) column[i] |= kOwnsSubList;
+    if ((kTypes[i].flags & AAA_ATTR_TYPE_OPAQUE) != 0) column[i] |= kHoldsSecret;
   }
-  column[0] = Promise::kEnd;
+  column[0] |= kEndsWalk;
   return column;
 }
 
 }  // namespace
 
 constexpr std::array<std::uint8_t, AAA_ATTR_TYPE_COUNT> kFormats = formats();
-constexpr std::array<Promise, AAA_ATTR_TYPE_COUNT> kPromises = promises();
+constexpr std::array<std::uint8_t, AAA_ATTR_TYPE_COUNT + 1> kTypeTraits = type_traits();
 constexpr NameIndex kNameIndex(kTypes);
 
 }  // namespace attrmgr

@@ -25,17 +25,18 @@ extern const TypeRow kTypes[AAA_ATTR_TYPE_COUNT];
 // The formats of all types once more, dense: the column that every add and every walk reads.
 extern const std::array<std::uint8_t, AAA_ATTR_TYPE_COUNT> kFormats;
 
-// What a live record of a type promises its readers, as dense.
-enum class Promise : std::uint8_t {
-  kNothing,
-  kSubList,  // the value is a handle
-  kNul,      // the value ends in NUL
-  kEnd,      // type 0: a client's walk ends here
+// What a record's type means to those who store, copy and check it, a bit each, as dense as the formats. The last row
+// stands for every number that is no type.
+enum TypeTrait : std::uint8_t {
+  kEndsInNul = 0x1,    // the stored value ends in a NUL
+  kOwnsSubList = 0x2,  // the value is the handle of a list that the record owns
+  kHoldsSecret = 0x4,  // the value must not outlive its list
+  kEndsWalk = 0x8,     // type 0: a client's walk ends here
 };
-extern const std::array<Promise, AAA_ATTR_TYPE_COUNT> kPromises;
+extern const std::array<std::uint8_t, AAA_ATTR_TYPE_COUNT + 1> kTypeTraits;
 
-inline Promise promise_of(std::uint32_t type) {
-  return type < AAA_ATTR_TYPE_COUNT ? kPromises[type] : Promise::kNothing;
+inline std::uint8_t traits_of(std::uint32_t type) {
+  return kTypeTraits[type < AAA_ATTR_TYPE_COUNT ? type : AAA_ATTR_TYPE_COUNT];
 }
 
 // Null for a number that is no type.

@@ -32,11 +32,10 @@ class NestedLists {
       next_ = block.has(kBlockHoldsGrouped) ? block.end() : nullptr;
     }
     if (next_ == nullptr) return nullptr;
-    FlatReader<HostForm> reader(next_, kUnknownLength, FlatRules::kTrusted);
-    while (reader.next()) {
-    }
-    const std::byte *taken = reader.complete() ? next_ : nullptr;
-    next_ = reader.complete() ? reader.behind() : nullptr;
+    TrustedReader reader(next_);
+    const bool whole = reader.read_to_end();
+    const std::byte *taken = whole ? next_ : nullptr;
+    next_ = whole ? reader.behind() : nullptr;
     return taken;
   }
 

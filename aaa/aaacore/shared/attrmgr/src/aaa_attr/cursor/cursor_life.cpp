@@ -1,12 +1,11 @@
 // Taking, resetting and returning cursors.
-#include <attrmgr/aaa_attr_dict.h>
 #include <attrmgr/aaa_cursor.h>
 
 #include "aaa_attr/cursor/pooled_cursor.h"
 #include "aaa_attr/frame/cursor_pool.h"
 #include "aaa_attr/store/handle_check.h"
+#include "aaa_attr/store/sub_list.h"
 #include "aaa_attr/walk/cursor_step.h"
-#include "dictionary/type_table.h"
 
 namespace attrmgr {
 
@@ -55,15 +54,16 @@ aaa_attr_cerrno aaa_cursor_grouped_alloc(const aaa_cursor *cursor, aaa_cursor **
   *sub_cursor = nullptr;
   const RecordView record = current_record(cursor);
   if (!record) return AAA_ATTR_ERR_NOT_FOUND;
-  const bool grouped = format_of(record.type()) == AAA_ATTR_FMT_GROUPED && record.length() == kHandleSize;
-  if (!grouped || in_buffer(*cursor)) return AAA_ATTR_ERR_BAD_ARG;
-  PooledCursor taken(load<aaa_attr_list_handle>(record.value()));
+  if (!is_grouped(record) || record.length() != kHandleSize || in_buffer(*cursor)) return AAA_ATTR_ERR_BAD_ARG;
+  PooledCursor taken(sub_list_of(record));
   if (taken.code() == 0) *sub_cursor = taken.release();
   return taken.code();
 }
 
 aaa_attr_cerrno aaa_cursor_reset(aaa_cursor *cursor) {
   if (cursor == nullptr) return AAA_ATTR_ERR_BAD_ARG;
+  // The handle is a buffer's address then, and the buffer's bytes are not to be taken for a list's.
+  if (in_buffer(*cursor)) return AAA_ATTR_ERR_BAD_LIST;
   BlockView head;
   if (const aaa_attr_cerrno code = resolve(cursor->handle, &head)) return code;
   cursor->flags = 0;

@@ -1,10 +1,10 @@
 // Moving a cursor and changing what it stands on.
-#include <attrmgr/aaa_attr_dict.h>
 #include <attrmgr/aaa_cursor.h>
 
-#include "aaa_attr/store/record_appender.h"
+#include "aaa_attr/list_ops/add.h"
+#include "aaa_attr/store/client_types.h"
+#include "aaa_attr/store/sub_list.h"
 #include "aaa_attr/walk/cursor_step.h"
-#include "dictionary/type_table.h"
 
 using namespace attrmgr;
 
@@ -24,7 +24,15 @@ int aaa_cursor_move_by_type(aaa_cursor *cursor, std::uint32_t type) {
 }
 
 void aaa_cursor_remove(aaa_cursor *cursor) {
-  if (RecordView record = current_record(cursor)) record.mark_deleted();
+  RecordView record = current_record(cursor);
+  if (!record) return;
+  if (in_buffer(*cursor)) {
+    // A removed Grouped record owns no nested list: the one in the buffer would become part of the outer list.
+    if (!is_grouped(record)) record.mark_deleted();
+    return;
+  }
+  BlockView head;
+  if (resolve(cursor->handle, &head) == 0) remove_record(head, record);
 }
 
 aaa_attr_cerrno aaa_cursor_set_producer_client_type(aaa_cursor *cursor, std::uint32_t client_type) {
@@ -37,6 +45,6 @@ aaa_attr_cerrno aaa_cursor_set_producer_client_type(aaa_cursor *cursor, std::uin
 aaa_attr_cerrno aaa_cursor_list_add_attr(aaa_attr_list_handle list, const aaa_cursor *cursor) {
   const RecordView record = current_record(cursor);
   if (!record) return AAA_ATTR_ERR_BAD_ARG;
-  if (in_buffer(*cursor) && format_of(record.type()) == AAA_ATTR_FMT_GROUPED) return AAA_ATTR_ERR_BAD_ARG;
+  if (in_buffer(*cursor) && is_grouped(record)) return AAA_ATTR_ERR_BAD_ARG;
   return add_attribute(list, attribute_of(record));
 }

@@ -1,9 +1,9 @@
 // Adding attributes and sub-lists.
 #include <attrmgr/aaa_attr.h>
 
+#include "aaa_attr/list_ops/add.h"
 #include "aaa_attr/list_ops/release.h"
 #include "aaa_attr/store/list_blocks.h"
-#include "aaa_attr/store/record_appender.h"
 
 namespace {
 

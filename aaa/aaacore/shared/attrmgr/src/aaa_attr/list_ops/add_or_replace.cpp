@@ -4,9 +4,11 @@
 
 #include <attrmgr/aaa_attr.h>
 
+#include "aaa_attr/list_ops/add.h"
 #include "aaa_attr/list_ops/release.h"
 #include "aaa_attr/list_ops/search.h"
 #include "aaa_attr/store/handle_check.h"
+#include "aaa_attr/store/sub_list.h"
 
 namespace attrmgr {
 namespace {
@@ -26,50 +28,93 @@ bool meta_agrees(RecordView found, const NewAttribute &attribute) {
   return same_meta(found.meta(), MetaView(meta));
 }
 
-// The sub-list that the record gives up; one that it is about to be given again stays.
-void release_sub_list(RecordView found, const NewAttribute &attribute) {
-  if (format_of(attribute.type) != AAA_ATTR_FMT_GROUPED || found.length() != kHandleSize) return;
-  if (std::memcmp(found.value(), attribute.value, kHandleSize) == 0) return;
-  release_list(load<aaa_attr_list_handle>(found.value()));
-}
-
 // Both agree on having meta and on the length, so that the record keeps its size.
 void overwrite(RecordView found, const NewAttribute &attribute) {
   if (attribute.meta != nullptr) std::memmove(found.meta_bytes(), attribute.meta, kMetaSize);
   std::memmove(found.value(), attribute.value, attribute.length);
 }
 
-aaa_attr_cerrno check(aaa_attr_list_handle list, const NewAttribute &attribute, BlockView *head, NewRecord *record) {
+aaa_attr_cerrno append_noted(ListEnd &list, const NewAttribute &attribute, const NewRecord &record, TypeIndex *index) {
+  const aaa_attr_cerrno code = append_checked(list, attribute, record);
+  if (code == 0 && index != nullptr) index->appended(list.last, static_cast<std::size_t>(record.size));
+  return code;
+}
+
+// The found record gives way to the attribute.
+aaa_attr_cerrno supersede(ListEnd &list, RecordView found, const NewAttribute &attribute, const NewRecord &record,
+                          TypeIndex *index) {
+  remove_record(list.head, found);
+  return append_noted(list, attribute, record, index);
+}
+
+// Value and meta of a Grouped attribute, taken before the sub-list goes in which they may lie.
+class Taken {
+ public:
+  explicit Taken(NewAttribute *attribute) {
+    std::memcpy(handle_, attribute->value, sizeof handle_);
+    attribute->value = handle_;
+    if (attribute->meta == nullptr) return;
+    std::memcpy(meta_, attribute->meta, sizeof meta_);
+    attribute->meta = meta_;
+  }
+  Taken(const Taken &) = delete;
+  Taken &operator=(const Taken &) = delete;
+
+  aaa_attr_list_handle handle() const { return load<aaa_attr_list_handle>(handle_); }
+
+ private:
+  std::byte handle_[kHandleSize];
+  std::byte meta_[kMetaSize];
+};
+
+// A Grouped record that is replaced by its own sub-list keeps it; else the sub-list goes.
+aaa_attr_cerrno replace_grouped(ListEnd &list, RecordView found, NewAttribute attribute, const NewRecord &record,
+                                bool in_place, TypeIndex *index) {
+  const Taken taken(&attribute);
+  const aaa_attr_list_handle owned = sub_list_of(found);
+  if (!name_one_list(owned, taken.handle())) release_list(owned);
+  if (!in_place) return supersede(list, found, attribute, record, index);
+  overwrite(found, attribute);
+  return 0;
+}
+
+aaa_attr_cerrno check(aaa_attr_list_handle list, const NewAttribute &attribute, BlockView *head) {
   if (attribute.type >= AAA_ATTR_TYPE_COUNT || attribute.value == nullptr) return AAA_ATTR_ERR_NOT_FOUND;
-  if (const aaa_attr_cerrno code = resolve(list, head)) return code;
-  // Everything that adding would refuse later is refused here, while the list is as it was.
-  if (const aaa_attr_cerrno code = check_presence(attribute)) return code;
-  *record = measure(attribute);
-  return check_length(attribute, *record);
+  return resolve(list, head);
+}
+
+aaa_attr_cerrno add_or_replace(aaa_attr_list_handle handle, const NewAttribute &attribute, OnOtherMeta on_other_meta) {
+  BlockView head;
+  if (const aaa_attr_cerrno code = check(handle, attribute, &head)) return code;
+  ListEnd list(head);
+  return add_or_replace(list, attribute, on_other_meta);
 }
 
 }  // namespace
 
-aaa_attr_cerrno add_or_replace(aaa_attr_list_handle list, const NewAttribute &attribute, OnOtherMeta on_other_meta,
-                               TypeIndex *index) {
-  BlockView head;
-  NewRecord record;
-  if (const aaa_attr_cerrno code = check(list, attribute, &head, &record)) return code;
+aaa_attr_cerrno add_or_replace(ListEnd &list, NewAttribute attribute, OnOtherMeta on_other_meta, TypeIndex *index) {
+  // Everything that adding would refuse later is refused here, while the list is as it was.
+  if (const aaa_attr_cerrno code = check_presence(attribute)) return code;
+  const NewRecord record = measure(attribute);
+  if (const aaa_attr_cerrno code = check_length(attribute, record)) return code;
+  if (adds_to_itself(list.head, attribute, record)) return AAA_ATTR_ERR_BAD_ARG;
+
   const auto type = static_cast<std::uint16_t>(attribute.type);
-  RecordView found = index != nullptr ? index->first(type) : find_first(head, type);
-  if (found) {
-    const bool same = meta_agrees(found, attribute);
-    const bool superseded = same || on_other_meta == OnOtherMeta::kSupersede;
-    if (superseded) release_sub_list(found, attribute);
-    if (same && reported_length(found) == attribute.length) {
-      overwrite(found, attribute);
-      return 0;
-    }
-    if (superseded) found.mark_deleted();
+  const RecordView found = index != nullptr ? index->first(type) : find_first(list.head, type);
+  if (!found) return append_noted(list, attribute, record, index);
+  const bool same = meta_agrees(found, attribute);
+  const bool alongside = !same && on_other_meta == OnOtherMeta::kAddAlongside;
+  const bool in_place = same && reported_length(found) == attribute.length;
+  if (record.format == AAA_ATTR_FMT_GROUPED) {
+    if (!alongside) return replace_grouped(list, found, attribute, record, in_place, index);
+    // Two records would own the sub-list.
+    if (name_one_list(sub_list_of(found), load<aaa_attr_list_handle>(static_cast<const std::byte *>(attribute.value))))
+      return AAA_ATTR_ERR_BAD_ARG;
   }
-  const aaa_attr_cerrno code = append_record(head, attribute, record);
-  if (code == 0 && index != nullptr) index->appended(static_cast<std::size_t>(record.size));
-  return code;
+  if (alongside) return append_noted(list, attribute, record, index);
+  if (!in_place) return supersede(list, found, attribute, record, index);
+  overwrite(found, attribute);
+  return 0;
 }
 
 }  // namespace attrmgr

@@ -4,7 +4,7 @@
 #include <attrmgr/aaa_attr_types.h>
 
 #include "aaa_attr/list_ops/type_index.h"
-#include "aaa_attr/store/record_appender.h"
+#include "aaa_attr/store/append.h"
 
 namespace attrmgr {
 
@@ -15,7 +15,7 @@ enum class OnOtherMeta {
 };
 
 // With an index of the list, the found record is looked up there, and an added one is noted.
-[[nodiscard]] aaa_attr_cerrno add_or_replace(aaa_attr_list_handle list, const NewAttribute &attribute,
-                                             OnOtherMeta on_other_meta, TypeIndex *index = nullptr);
+[[nodiscard]] aaa_attr_cerrno add_or_replace(ListEnd &list, NewAttribute attribute, OnOtherMeta on_other_meta,
+                                             TypeIndex *index = nullptr);
 
 }  // namespace attrmgr

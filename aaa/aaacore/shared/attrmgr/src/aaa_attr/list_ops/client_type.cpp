@@ -2,6 +2,7 @@
 #include <attrmgr/aaa_attr.h>
 
 #include "aaa_attr/cursor/pooled_cursor.h"
+#include "aaa_attr/store/client_types.h"
 #include "aaa_attr/walk/cursor_step.h"
 
 namespace {

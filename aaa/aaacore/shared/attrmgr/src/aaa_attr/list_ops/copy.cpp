@@ -5,13 +5,12 @@
 #include <cstring>
 
 #include <attrmgr/aaa_attr.h>
-#include <attrmgr/aaa_attr_dict.h>
 
 #include "aaa_attr/list_ops/release.h"
 #include "aaa_attr/store/handle_check.h"
 #include "aaa_attr/store/list_blocks.h"
+#include "aaa_attr/store/sub_list.h"
 #include "aaa_attr/walk/list_walk.h"
-#include "dictionary/type_table.h"
 
 namespace attrmgr {
 namespace {
@@ -22,7 +21,7 @@ aaa_attr_cerrno copy_block(BlockView from, BlockView to) {
   if (from.version() != to.version() || used > size) return AAA_ATTR_ERR_BAD_LIST;
   std::memcpy(to.bytes(), from.bytes(), used);
   to.set_free_bytes(static_cast<std::uint16_t>(size - used));
-  to.set_reserved(0);
+  rule_out(to, kListBits | kTailHint);
   to.set_next(BlockView());
   return 0;
 }
@@ -38,6 +37,7 @@ aaa_attr_cerrno copy_blocks(BlockView source, BlockView copy, std::uint8_t *flag
     to = aaa_attr_list_add_block(BlockView(), to, from.used());
     code = to ? copy_block(from, to) : AAA_ATTR_ERR_NO_MEMORY;
   }
+  note(copy, source.own_word() & (kMayNeedPacking | kMayHoldTypeZero));
   if (code == 0) set_tail(copy, to);
   return code;
 }
@@ -46,9 +46,9 @@ aaa_attr_cerrno copy_blocks(BlockView source, BlockView copy, std::uint8_t *flag
 // blocks become 0, so that releasing the copy leaves the source's sub-lists alone.
 aaa_attr_cerrno copy_sub_lists(BlockView block, const void *owner, aaa_attr_cerrno code) {
   for (const RecordView record : BlockRecords(block)) {
-    if (format_of(record.type()) != AAA_ATTR_FMT_GROUPED || record.length() != kHandleSize) continue;
+    if (!is_grouped(record) || record.length() != kHandleSize) continue;
     aaa_attr_list_handle sub_copy = 0;
-    if (code == 0) code = copy_list(load<aaa_attr_list_handle>(record.value()), owner, &sub_copy);
+    if (code == 0) code = copy_list(sub_list_of(record), owner, &sub_copy);
     store(record.value(), sub_copy);
   }
   return code;

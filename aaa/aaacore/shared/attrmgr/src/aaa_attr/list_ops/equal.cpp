@@ -1,39 +1,29 @@
 // Equality of lists as sets: every attribute of each has a match in the other. Lists that hold the same in the same
-// order are equal after one pass over both, block by block if even the bytes are the same; only what is behind the
-// first difference is searched for.
+// order are equal after one pass over both, block by block if even the bytes are the same. All others are compared
+// class by class: the records whose hashes fall into one class are few enough for a window, and one pass over each list
+// tells whether they are the same set.
 //
-// Sub-lists are compared by content, which is dear: two of them are compared once, for both directions together.
-// Without that, every level of nesting would double the work.
-#include <bitset>
-#include <cstdlib>
-
+// A Grouped record's hash is that of what its sub-list holds, in any order. So sub-lists that differ are seldom
+// compared at all, and those that are equal are compared once, for both directions together; every other way, each
+// level of nesting would double the work.
 #include <attrmgr/aaa_attr.h>
-#include <attrmgr/aaa_attr_dict.h>
 
 #include "aaa_attr/list_ops/match.h"
-#include "aaa_attr/list_ops/type_index.h"
+#include "aaa_attr/list_ops/record_hash.h"
+#include "aaa_attr/list_ops/record_window.h"
 #include "aaa_attr/store/handle_check.h"
+#include "aaa_attr/store/sub_list.h"
 #include "aaa_attr/walk/list_walk.h"
 
 namespace attrmgr {
 namespace {
-
-bool lists_equal(aaa_attr_list_handle list1, aaa_attr_list_handle list2);
-
-bool is_grouped(RecordView record) { return format_of(record.type()) == AAA_ATTR_FMT_GROUPED; }
-
-aaa_attr_list_handle sub_list_of(RecordView record) { return load<aaa_attr_list_handle>(record.value()); }
 
 bool same_meta(RecordView a, RecordView b) {
   if (a.has_meta() != b.has_meta()) return false;
   return !a.has_meta() || std::memcmp(a.meta_bytes(), b.meta_bytes(), kMetaSize) == 0;
 }
 
-bool matches(RecordView a, RecordView b) {
-  if (a.type() != b.type()) return false;
-  if (is_grouped(a)) return lists_equal(sub_list_of(a), sub_list_of(b));
-  return same_value(a, b) && same_meta(a, b);
-}
+// ---- The same in the same order ----
 
 // Whether the lists have the same records, byte by byte and block by block; the same handle is the same sub-list.
 bool same_bytes(BlockView block1, BlockView block2) {
@@ -46,144 +36,200 @@ bool same_bytes(BlockView block1, BlockView block2) {
   return !block1 && !block2;
 }
 
-using Position = Attributes::Iterator;  // at a null record behind the last
+bool same_sub_lists_in_order(aaa_attr_list_handle handle1, aaa_attr_list_handle handle2);
 
-bool has_match(RecordView wanted, RecordsOfType::Iterator candidate) {
-  for (; *candidate; ++candidate)
-    if (matches(wanted, *candidate)) return true;
-  return false;
-}
-
-// Two lists that agree up to the positions `at1` and `at2` and differ there.
-struct Difference {
-  BlockView list1;
-  BlockView list2;
-  Position at1;
-  Position at2;
-};
-
-enum class Matched { kNo, kOneWay, kBothWays };
-
-// Whether every record of the first list that holds a value, from the position on, has a match in the second. Where
-// each type of the second list is there but once, a record that has a match is the match of that match, and the way
-// back is short. Not in line: the index is not to lie on the stack while sub-lists are compared.
-[[gnu::noinline]] Matched match_values(Difference lists) {
-  const TypeIndex index(lists.list2, lists.list1);
-  for (; *lists.at1; ++lists.at1)
-    if (!is_grouped(*lists.at1) && !has_match(*lists.at1, index.records((*lists.at1).type()))) return Matched::kNo;
-  if (!index.unique()) return Matched::kOneWay;
-  for (; *lists.at2; ++lists.at2)
-    if (!is_grouped(*lists.at2) && !index.asked((*lists.at2).type())) return Matched::kNo;
-  return Matched::kBothWays;
-}
-
-bool values_match(const Difference &lists) {
-  const Matched matched = match_values(lists);
-  if (matched != Matched::kOneWay) return matched == Matched::kBothWays;
-  return match_values({lists.list2, lists.list1, lists.at2, lists.at1}) != Matched::kNo;
-}
-
-// Every record that owns a sub-list, from the position on, has a match in the list.
-bool grouped_have_match(Position from, BlockView list) {
-  for (; *from; ++from)
-    if (is_grouped(*from) && !has_match(*from, RecordsOfType(list, (*from).type()).begin())) return false;
-  return true;
-}
-
-// A mark for each Grouped record of a list, by its number: it has found a match. Lists with very many of them need
-// memory for it, and there may be none.
-class Marks {
- public:
-  explicit Marks(std::size_t count) {
-    if (count > kOnStack) more_ = static_cast<bool *>(std::calloc(count, sizeof(bool)));
-    available_ = count <= kOnStack || more_ != nullptr;
+bool same_in_order(BlockView list1, BlockView list2) {
+  if (same_bytes(list1, list2)) return true;
+  Attributes::Iterator at1(list1);
+  Attributes::Iterator at2(list2);
+  for (; *at1 && *at2; ++at1, ++at2) {
+    if ((*at1).type() != (*at2).type()) return false;
+    const bool same = is_grouped(*at1) ? same_sub_lists_in_order(sub_list_of(*at1), sub_list_of(*at2))
+                                       : same_value(*at1, *at2) && same_meta(*at1, *at2);
+    if (!same) return false;
   }
-  ~Marks() { std::free(more_); }
-  Marks(const Marks &) = delete;
-  Marks &operator=(const Marks &) = delete;
+  return !*at1 && !*at2;
+}
 
-  bool available() const { return available_; }
-  bool marked(std::size_t number) const { return more_ != nullptr ? more_[number] : few_[number]; }
-  void mark(std::size_t number) {
-    if (more_ != nullptr) {
-      more_[number] = true;
-    } else {
-      few_[number] = true;
-    }
+bool same_sub_lists_in_order(aaa_attr_list_handle handle1, aaa_attr_list_handle handle2) {
+  if (handle1 == handle2) return true;
+  const BlockView list1 = resolve_whole(handle1).head;
+  const BlockView list2 = resolve_whole(handle2).head;
+  return list1 && list2 && same_in_order(list1, list2);
+}
+
+// ---- The same in any order ----
+
+// A number for what a list holds, whatever the order and the number of repetitions: a bit for each record's hash, and
+// of all bits a hash. Lists of many records that differ in few may have the same.
+class Contents {
+ public:
+  std::uint64_t of(RecordView record) const {
+    if (!is_grouped(record)) return hasher_.of_value_and_meta(record);
+    return hasher_.of_number(of(sub_list_of(record)) + record.type());
   }
 
  private:
-  static constexpr std::size_t kOnStack = 512;
+  std::uint64_t of(aaa_attr_list_handle list) const {
+    const Resolved resolved = resolve(list);
+    if (resolved.code != 0) return hasher_.of_number(list);
+    std::uint64_t seen[32] = {};
+    for (const RecordView record : Attributes(resolved.head)) {
+      const std::uint64_t hash = of(record);
+      seen[hash >> 6 & 31] |= std::uint64_t{1} << (hash & 63);
+    }
+    std::uint64_t sum = 0;
+    for (std::uint64_t place = 0; const std::uint64_t bits : seen) sum += hasher_.of_number(bits ^ place++ << 58);
+    return sum;
+  }
 
-  std::bitset<kOnStack> few_;
-  bool *more_ = nullptr;
-  bool available_;
+  RecordHasher hasher_;
 };
 
-std::size_t count_grouped(BlockView list) {
-  std::size_t grouped = 0;
-  for (const RecordView record : Attributes(list)) grouped += is_grouped(record);
-  return grouped;
+// As many as make a mebibyte of the shortest records a matter of a hundred passes.
+constexpr std::size_t kWindowEntries = 2048;
+
+// The space that the levels of a comparison share.
+struct Windows {
+  WindowSpace<kWindowEntries> space;
+  std::size_t used = 0;
+};
+
+// The hashes that agree in some bits, which are none of those that a window tells records apart by.
+struct HashClass {
+  static constexpr unsigned kFirstBit = std::bit_width(2 * kWindowEntries - 1);
+  static constexpr unsigned kBitsMax = 32 - kFirstBit;
+
+  bool contains(std::uint64_t hash) const { return ((hash >> kFirstBit ^ value) & ((1u << bits) - 1)) == 0; }
+  HashClass half(std::uint32_t which) const { return {value | which << bits, bits + 1}; }
+
+  std::uint32_t value = 0;
+  unsigned bits = 0;
+};
+
+bool holds_grouped(BlockView list) {
+  for (const BlockView block : Blocks(list))
+    if (block.has(kBlockHoldsGrouped)) return true;
+  return false;
 }
 
-// Looks for matches of one Grouped record of the first list. `agreed`: it has one, and only records of the second list
-// that have none yet are of interest. False when it has none.
-bool match_grouped(RecordView own, bool agreed, const Difference &difference, Marks &marks) {
-  bool matched = agreed;
-  std::size_t number = 0;
-  for (const RecordView other : Attributes(difference.list2)) {
-    if (!is_grouped(other)) continue;
-    const std::size_t current = number++;
-    if (matched && marks.marked(current)) continue;
-    if (own == *difference.at1 && other == *difference.at2) continue;  // known to differ
-    if (!matches(own, other)) continue;
-    matched = true;
-    marks.mark(current);
+bool nested_equal(aaa_attr_list_handle handle1, aaa_attr_list_handle handle2, Windows &windows);
+
+// Two lists compared as sets, with a window over the first.
+class SetComparison {
+ public:
+  SetComparison(BlockView list1, BlockView list2, Windows &windows)
+      : list1_(list1), list2_(list2), windows_(windows), window_(take_window()) {}
+  ~SetComparison() { windows_.used = start_; }
+  SetComparison(const SetComparison &) = delete;
+  SetComparison &operator=(const SetComparison &) = delete;
+
+  bool equal(HashClass hashes = {}) {
+    const Outcome outcome = compare(hashes);
+    if (outcome != Outcome::kTooMany) return outcome == Outcome::kEqual;
+    // So many records that differ do not have so much of a hash in common.
+    if (hashes.bits == HashClass::kBitsMax) return false;
+    return equal(hashes.half(0)) && equal(hashes.half(1));
   }
-  return matched;
-}
 
-// Every Grouped record of either list has a match in the other.
-bool grouped_match(const Difference &difference) {
-  const std::size_t num_grouped = count_grouped(difference.list2);
-  Marks marks(num_grouped);
-  if (!marks.available())
-    return grouped_have_match(difference.at1, difference.list2) && grouped_have_match(difference.at2, difference.list1);
-  std::size_t number = 0;
-  for (Position at(difference.list2); *at && *at != *difference.at2; ++at)
-    if (is_grouped(*at)) marks.mark(number++);
-  bool agreed = true;
-  for (const RecordView own : Attributes(difference.list1)) {
-    if (own == *difference.at1) agreed = false;
-    if (is_grouped(own) && !match_grouped(own, agreed, difference, marks)) return false;
+ private:
+  enum class Outcome { kEqual, kDifferent, kTooMany };
+
+  // A list that nests others leaves half of the space to them. Whom too little is left for has a little of his own.
+  RecordWindow take_window() {
+    const std::size_t left = kWindowEntries - start_;
+    const std::size_t share = nested_ ? left / 2 : left;
+    const std::size_t wanted = std::min(count_records(list1_), std::max(share, kFewEntries));
+    if (share < wanted) return RecordWindow(few_, 0, wanted);
+    windows_.used = start_ + wanted;
+    return RecordWindow(windows_.space, start_, wanted);
   }
-  for (number = 0; number < num_grouped; ++number)
-    if (!marks.marked(number)) return false;
-  return true;
-}
 
-bool lists_equal(aaa_attr_list_handle handle1, aaa_attr_list_handle handle2) {
+  // The records of the class: those of the first list are collected, each value once; those of the second must be
+  // among them, and leave none over.
+  Outcome compare(HashClass hashes) {
+    std::size_t unmatched = 0;
+    window_.clear();
+    for (const RecordView own : Attributes(list1_)) {
+      const std::uint64_t hash = hash_of(own);
+      if (!hashes.contains(hash)) continue;
+      if (WindowEntry *known = find(hash, own)) {
+        keep_shorter(*known, own);
+        continue;
+      }
+      if (window_.full()) return Outcome::kTooMany;
+      window_.add(hash, own);
+      ++unmatched;
+    }
+    for (const RecordView other : Attributes(list2_)) {
+      const std::uint64_t hash = hash_of(other);
+      if (!hashes.contains(hash)) continue;
+      WindowEntry *match = find(hash, other);
+      if (match == nullptr) return Outcome::kDifferent;
+      if (!std::exchange(match->matched, true)) --unmatched;
+    }
+    return unmatched == 0 ? Outcome::kEqual : Outcome::kDifferent;
+  }
+
+  std::uint64_t hash_of(RecordView record) const {
+    return nested_ ? contents_.of(record) : hasher_.of_value_and_meta(record);
+  }
+
+  WindowEntry *find(std::uint64_t hash, RecordView wanted) {
+    return window_.find(hash, [this, wanted](const WindowEntry &entry) { return matches(entry.record, wanted); });
+  }
+
+  bool matches(RecordView a, RecordView b) {
+    if (a.type() != b.type()) return false;
+    if (nested_ && is_grouped(a)) return nested_equal(sub_list_of(a), sub_list_of(b), windows_);
+    return same_value(a, b) && same_meta(a, b);
+  }
+
+  // Of equal sub-lists the one with fewer repetitions is compared with those to come.
+  static void keep_shorter(WindowEntry &known, RecordView equal) {
+    if (!is_grouped(equal)) return;
+    const Resolved known_list = resolve(sub_list_of(known.record));
+    const Resolved other_list = resolve(sub_list_of(equal));
+    if (known_list.code != 0 || other_list.code != 0) return;
+    if (count_records(other_list.head) < count_records(known_list.head)) known.record = equal;
+  }
+
+  static constexpr std::size_t kFewEntries = 16;
+
+  BlockView list1_;
+  BlockView list2_;
+  const bool nested_ = holds_grouped(list1_) || holds_grouped(list2_);
+  Windows &windows_;
+  const std::size_t start_ = windows_.used;
+  WindowSpace<kFewEntries> few_;
+  RecordWindow window_;
+  RecordHasher hasher_;
+  Contents contents_;
+};
+
+bool nested_equal(aaa_attr_list_handle handle1, aaa_attr_list_handle handle2, Windows &windows) {
   if (handle1 == handle2) return true;
-  if (check_whole_list(handle1) != 0 || check_whole_list(handle2) != 0) return false;
-  BlockView list1;
-  BlockView list2;
-  if (resolve(handle1, &list1) != 0 || resolve(handle2, &list2) != 0) return false;
+  const BlockView list1 = resolve_whole(handle1).head;
+  const BlockView list2 = resolve_whole(handle2).head;
+  if (!list1 || !list2) return false;
+  return same_in_order(list1, list2) || SetComparison(list1, list2, windows).equal();
+}
 
-  if (same_bytes(list1, list2)) return true;
-  Position at1(list1);
-  Position at2(list2);
-  while (*at1 && *at2 && matches(*at1, *at2)) {
-    ++at1;
-    ++at2;
-  }
-  if (!*at1 && !*at2) return true;
-  const Difference difference{list1, list2, at1, at2};
-  return values_match(difference) && grouped_match(difference);
+// Not in line: lists in the same order need no windows on the stack.
+[[gnu::noinline]] bool equal_in_any_order(BlockView list1, BlockView list2) {
+  Windows windows;
+  return SetComparison(list1, list2, windows).equal();
 }
 
 }  // namespace
 }  // namespace attrmgr
 
-int aaa_attr_list_eq(aaa_attr_list_handle list1, aaa_attr_list_handle list2) {
-  return attrmgr::lists_equal(list1, list2);
+using namespace attrmgr;
+
+int aaa_attr_list_eq(aaa_attr_list_handle handle1, aaa_attr_list_handle handle2) {
+  if (handle1 == handle2) return 1;
+  const BlockView list1 = resolve_whole(handle1).head;
+  const BlockView list2 = resolve_whole(handle2).head;
+  if (!list1 || !list2) return 0;
+  return same_in_order(list1, list2) || equal_in_any_order(list1, list2);
 }

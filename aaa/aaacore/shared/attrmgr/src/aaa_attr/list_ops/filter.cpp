@@ -5,9 +5,9 @@
 #include "aaa_attr/list_ops/release.h"
 #include "aaa_attr/list_ops/remove.h"
 #include "aaa_attr/list_ops/type_set.h"
+#include "aaa_attr/store/append.h"
 #include "aaa_attr/store/handle_check.h"
-#include "aaa_attr/store/list_blocks.h"
-#include "aaa_attr/store/record_appender.h"
+#include "aaa_attr/store/sub_list.h"
 #include "aaa_attr/walk/list_walk.h"
 
 namespace {
@@ -38,15 +38,16 @@ class Kept {
 };
 
 aaa_attr_cerrno append_kept(BlockView from, BlockView to) {
+  ListEnd end(to);
   for (const RecordView record : Attributes(from))
-    if (const aaa_attr_cerrno code = add_attribute(to, attribute_of(record))) return code;
+    if (const aaa_attr_cerrno code = append(end, attribute_of(record))) return code;
   return 0;
 }
 
 // The new list owns the sub-lists of the kept records now.
 void give_up_sub_lists(BlockView from) {
   for (const RecordView record : Attributes(from))
-    if (format_of(record.type()) == AAA_ATTR_FMT_GROUPED) store(record.value(), aaa_attr_list_handle{0});
+    if (sub_list_of(record) != 0) store(record.value(), aaa_attr_list_handle{0});
 }
 
 }  // namespace
@@ -58,7 +59,7 @@ aaa_attr_cerrno aaa_attr_filter_on_type(aaa_attr_list_handle *list, const std::u
   if (const aaa_attr_cerrno code = resolve(*list, &old)) return code;
   const Kept kept(types, num_types);
   for (const RecordView record : Attributes(old))
-    if (!kept.contains(record.type())) remove_with_sub_list(record);
+    if (!kept.contains(record.type())) remove_with_sub_list(old, record);
 
   List made;
   if (const aaa_attr_cerrno code = create_list(ATTRMGR_CALLER, &made)) return code;

@@ -19,12 +19,12 @@ aaa_attr_cerrno aaa_attr_list_alloc(aaa_attr_list_handle *list) {
 
 int is_aaa_attr_list_valid(aaa_attr_list_handle list, aaa_attr_cerrno *code) {
   if (code == nullptr) return 0;
-  *code = check_whole_list(list);
+  *code = resolve_whole(list).code;
   return *code == 0;
 }
 
 aaa_attr_cerrno is_aaa_attr_list_empty(aaa_attr_list_handle list, int *empty) {
-  if (empty == nullptr || check_whole_list(list) != 0) return AAA_ATTR_ERR_BAD_LIST;
+  if (empty == nullptr || resolve_whole(list).code != 0) return AAA_ATTR_ERR_BAD_LIST;
   const PooledCursor cursor(list);
   if (cursor.code() != 0) return cursor.code();
   *empty = aaa_cursor_get_next(cursor.get()) == 0;

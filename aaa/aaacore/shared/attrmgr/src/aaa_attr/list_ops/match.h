@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "aaa_attr/store/attribute.h"
+#include "aaa_attr/store/value_bytes.h"
 
 namespace attrmgr {
 
@@ -13,9 +14,7 @@ inline bool holds_value(RecordView record, const void *value, std::uint32_t leng
 
 // For records of one type.
 inline bool same_value(RecordView a, RecordView b) {
-  constexpr std::uint32_t kUsualLength = 4;
-  if (a.length() == kUsualLength && b.length() == kUsualLength)
-    return load<std::uint32_t>(a.value()) == load<std::uint32_t>(b.value());
+  if (a.length() == b.length()) return same_value_bytes(a.value(), b.value(), a.length());
   return holds_value(a, b.value(), reported_length(b));
 }
 

@@ -1,19 +1,18 @@
-// Sub-lists are not freed by recursion: the chain of blocks being freed grows at its end by the chain of each sub-list
-// that a block owns. However deep lists nest, the stack stays small and each block is looked at once.
+// Sub-lists are not freed by recursion. From the first block that holds Grouped records on, the chain of blocks first
+// grows at its end by the chain of each sub-list that a block owns, and only then the blocks go. However deep lists
+// nest, the stack stays small; whatever names a list twice, it goes once.
 #include "aaa_attr/list_ops/release.h"
 
 #include <cstdio>
-#include <cstdlib>
 
 #include <attrmgr/aaa_attr.h>
-#include <attrmgr/aaa_attr_dict.h>
 #include <attrmgr/aaa_platform.h>
 
 #include "aaa_attr/frame/client.h"
 #include "aaa_attr/store/handle_check.h"
 #include "aaa_attr/store/list_blocks.h"
+#include "aaa_attr/store/sub_list.h"
 #include "aaa_attr/walk/list_walk.h"
-#include "dictionary/type_table.h"
 
 namespace attrmgr {
 namespace {
@@ -30,28 +29,41 @@ BlockView head_to_release(aaa_attr_list_handle list) {
   return head;
 }
 
-// Chains the sub-lists of the block's live records behind tail and withdraws their handles. Returns the new tail.
-BlockView queue_sub_lists(BlockView block, BlockView tail) {
+// A list that is about to go must not be found by another record that names it.
+constexpr std::uint16_t kQueuedMagic = 0;
+
+// Chains the sub-lists of the block's live records after tail and withdraws their handles. Returns the new tail. Of the
+// outermost list, `root`, blocks may be gone already: nothing of it is looked at.
+BlockView queue_sub_lists(BlockView block, BlockView tail, BlockView root) {
   for (const RecordView record : BlockRecords(block)) {
-    if (format_of(record.type()) != AAA_ATTR_FMT_GROUPED || record.length() != kHandleSize) continue;
-    const auto sub_list = load<aaa_attr_list_handle>(record.value());
-    const BlockView head = head_to_release(sub_list);
-    if (!head) continue;
+    const aaa_attr_list_handle sub_list = sub_list_of(record);
+    if (sub_list == 0 || names_list_at(sub_list, root)) continue;
+    BlockView head = head_to_release(sub_list);
+    // A block without the head flag belongs to a list that has taken it in.
+    if (!head || !head.has(kBlockHead)) continue;
     id_delete(sub_list, handle_table());
+    head.set_magic(kQueuedMagic);
     tail.set_next(head);
     tail = last_block(head);
   }
   return tail;
 }
 
-void release_chain(BlockView head, bool with_sub_lists) {
-  BlockView tail = last_block(head);
-  for (BlockView block = head; block;) {
-    if (with_sub_lists && block.has(kBlockHoldsGrouped)) tail = queue_sub_lists(block, tail);
+void queue_all_sub_lists(BlockView first, BlockView root) {
+  BlockView tail = first;
+  while (const BlockView next = tail.next()) tail = next;
+  for (const BlockView block : Blocks(first))
+    if (block.has(kBlockHoldsGrouped)) tail = queue_sub_lists(block, tail, root);
+}
+
+// Frees the blocks of a chain up to the first one that has any of the flags, and returns that; null for none.
+BlockView free_chain(BlockView block, std::uint8_t up_to = 0) {
+  while (block && !block.has(up_to)) {
     const BlockView next = block.next();
-    std::free(block.bytes());
+    free_block(block);
     block = next;
   }
+  return block;
 }
 
 }  // namespace
@@ -59,12 +71,15 @@ void release_chain(BlockView head, bool with_sub_lists) {
 void release_list(aaa_attr_list_handle list) {
   const BlockView head = head_to_release(list);
   if (!head) return;
-  release_chain(head, true);
+  if (const BlockView block = free_chain(head, kBlockHoldsGrouped)) {
+    queue_all_sub_lists(block, head);
+    free_chain(block);
+  }
   id_delete(list, handle_table());
 }
 
 void release_without_sub_lists(aaa_attr_list_handle list, BlockView head) {
-  release_chain(head, false);
+  free_chain(head);
   id_delete(list, handle_table());
 }
 

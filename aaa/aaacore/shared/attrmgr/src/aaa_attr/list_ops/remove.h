@@ -10,7 +10,7 @@ namespace attrmgr {
 // aaa_attr_list_remove_list.
 [[nodiscard]] aaa_attr_cerrno remove_types_of(aaa_attr_list_handle list, aaa_attr_list_handle types_from);
 
-// Marks the record removed and, if it is Grouped, releases its sub-list.
-void remove_with_sub_list(RecordView record);
+// Removes a record of the list and, if it is Grouped, releases its sub-list.
+void remove_with_sub_list(BlockView head, RecordView record);
 
 }  // namespace attrmgr

@@ -12,34 +12,26 @@ TypeIndex::TypeIndex(BlockView list, BlockView asked) : list_(list) {
         cut_ = true;
         return;
       }
-      if (asked_.may_contain(record.type())) note({block, record});
+      add({block, record});
     }
 }
 
-void TypeIndex::note(Place place) {
+void TypeIndex::add(Place place) {
   const std::uint16_t type = place.record.type();
-  if (type >= AAA_ATTR_TYPE_COUNT || known_.may_contain(type)) {
-    unique_ = false;
-    return;
-  }
+  if (type >= AAA_ATTR_TYPE_COUNT || !asked_.may_contain(type) || known_.may_contain(type)) return;
   known_.insert(type);
   first_[type].write(place);
 }
 
-RecordsOfType::Iterator TypeIndex::records(std::uint16_t type) const {
-  if (type >= AAA_ATTR_TYPE_COUNT) return RecordsOfType(list_, type).begin();
-  return known_.may_contain(type) ? RecordsOfType::Iterator(first_[type].value, type) : RecordsOfType::Iterator();
-}
-
 RecordView TypeIndex::first(std::uint16_t type) {
-  const RecordsOfType::Iterator found = records(type);
-  if (*found && type < AAA_ATTR_TYPE_COUNT) first_[type].value = found.place();
+  if (!known_.may_contain(type)) return {};
+  const RecordsOfType::Iterator found(list_, first_[type].value, type);
+  if (*found) first_[type].value = found.place();
   return *found;
 }
 
-void TypeIndex::appended(std::size_t size) {
-  const BlockView last = last_block(list_);
-  if (!cut_) note({last, RecordView(last.end() - size)});
+void TypeIndex::appended(BlockView last, std::size_t size) {
+  if (!cut_) add({last, RecordView(last.end() - size)});
 }
 
 }  // namespace attrmgr

@@ -14,6 +14,9 @@ class TypeSet {
  public:
   void insert(std::uint32_t type) { types_[bit_of(type)] = true; }
 
+  // Whether a number outside the dictionary is in the set.
+  bool has_others() const { return types_[AAA_ATTR_TYPE_COUNT]; }
+
   // Whether the type is in the set; for a number outside the dictionary, whether it may be.
   bool may_contain(std::uint32_t type) const { return types_[bit_of(type)]; }
 

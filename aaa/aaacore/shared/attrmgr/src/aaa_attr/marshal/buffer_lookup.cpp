@@ -13,7 +13,7 @@ using namespace attrmgr;
 // The first record of the type in the outer list or a nested one, removed records included. Null when there is none,
 // or when a record passes its block before it.
 RecordView find_in_buffer(const std::byte *bytes, std::uint32_t type) {
-  FlatReader<HostForm> reader(bytes, kUnknownLength, FlatRules::kTrusted);
+  TrustedReader reader(bytes);
   while (reader.next()) {
     RecordScan scan = reader.records();
     while (scan.next())

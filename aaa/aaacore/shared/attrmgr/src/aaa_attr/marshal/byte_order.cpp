@@ -4,6 +4,7 @@
 #include <attrmgr/aaa_attr_marshal.h>
 
 #include "aaa_attr/store/network_form.h"
+#include "aaa_attr/store/sub_list.h"
 #include "aaa_attr/walk/flat_reader.h"
 #include "dictionary/type_table.h"
 
@@ -16,16 +17,19 @@ constexpr std::uint32_t kNumberSize = 4;
 bool is_number(std::uint32_t format) { return format == AAA_ATTR_FMT_ULONG || format == AAA_ATTR_FMT_ENUM; }
 
 template <class Form>
+using WholeReader = FlatReader<Form, FlatRules::kWhole>;
+
+template <class Form>
 bool length_holds(BasicRecord<Form> record) {
   const std::uint32_t format = format_of(record.type());
   if (is_number(format)) return record.length() == kNumberSize;
   if (format == AAA_ATTR_FMT_BOOLEAN) return record.length() == 1;
-  if (format == AAA_ATTR_FMT_GROUPED) return record.length() == kHandleSize;
+  if (is_grouped(record)) return record.length() == kHandleSize;
   return true;
 }
 
 template <class Form>
-bool holds_together(FlatReader<Form> reader) {
+bool holds_together(WholeReader<Form> reader) {
   while (reader.next())
     for (BasicRecordScan<Form> scan = reader.records(); scan.next();)
       if (!length_holds(scan.record())) return false;
@@ -62,7 +66,7 @@ void translate_header(BasicBlock<From> from) {
 
 template <class From, class To>
 aaa_attr_cerrno translate(std::byte *list, std::uint64_t length) {
-  FlatReader<From> reader(list, length, FlatRules::kWhole);
+  WholeReader<From> reader(list, length);
   if (!holds_together(reader)) return AAA_ATTR_ERR_BAD_BUFFER;
   while (reader.next()) {
     // The scan is a step ahead of the record that it hands out, and the header is rewritten last.

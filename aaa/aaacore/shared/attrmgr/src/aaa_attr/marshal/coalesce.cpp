@@ -1,14 +1,11 @@
 #include "aaa_attr/marshal/coalesce.h"
 
-#include <cstdlib>
 #include <cstring>
-
-#include <attrmgr/aaa_attr_dict.h>
 
 #include "aaa_attr/store/handle_check.h"
 #include "aaa_attr/store/list_blocks.h"
+#include "aaa_attr/store/sub_list.h"
 #include "aaa_attr/walk/record_scan.h"
-#include "dictionary/type_table.h"
 
 namespace attrmgr {
 namespace {
@@ -18,13 +15,16 @@ struct Run {
   std::byte *begin;
   std::byte *end;
 
-  // Moves the run down to `to` and returns the byte behind it there.
+  // Moves the run down to `to` and returns the byte after it there.
   std::byte *move_to(std::byte *to) const {
     const auto size = static_cast<std::size_t>(end - begin);
     if (to != begin) std::memmove(to, begin, size);
     return to + size;
   }
 };
+
+// Zeroes what comes after the block's records.
+void clear_tail(BlockView block) { std::memset(block.end(), 0, block.free_bytes()); }
 
 void pack(BlockView block) {
   const std::size_t size = block.size();
@@ -34,33 +34,28 @@ void pack(BlockView block) {
   bool grouped = false;
   for (RecordScan scan(block); scan.next();) {
     const RecordView record = scan.record();
-    std::byte *behind = record.bytes() + record.size();
+    std::byte *after = record.bytes() + record.size();
     if (!record.deleted()) {
       ++live;
-      grouped |= format_of(record.type()) == AAA_ATTR_FMT_GROUPED;
-      run.end = behind;
+      grouped |= is_grouped(record);
+      run.end = after;
     } else {
       to = run.move_to(to);
-      run = {behind, behind};
+      run = {after, after};
     }
   }
   to = run.move_to(to);
 
   const auto used = static_cast<std::size_t>(to - block.bytes());
-  std::memset(to, 0, size - used);
   block.clear_flags(kBlockHoldsGrouped | kBlockReserved);
   if (grouped) block.add_flags(kBlockHoldsGrouped);
   block.set_record_count(live);
   block.set_used(static_cast<std::uint16_t>(used));
   block.set_free_bytes(static_cast<std::uint16_t>(size - used));
+  clear_tail(block);
 }
 
-}  // namespace
-
-aaa_attr_cerrno aaa_attr_list_coalesce(aaa_attr_list_handle list) {
-  BlockView head;
-  if (const aaa_attr_cerrno code = resolve(list, &head)) return code;
-  if (head.block_count() == 0) return 0;
+void pack_all(BlockView head) {
   BlockView kept = head;
   for (BlockView block = head; block;) {
     const BlockView next = block.next();
@@ -69,13 +64,28 @@ aaa_attr_cerrno aaa_attr_list_coalesce(aaa_attr_list_handle list) {
       kept.set_next(next);
       if (!next) kept.add_flags(kBlockLast);
       head.set_block_count(static_cast<std::uint16_t>(head.block_count() - 1));
-      std::free(block.bytes());
+      free_block(block);
     } else {
       kept = block;
     }
     block = next;
   }
   set_tail(head, kept);
+}
+
+}  // namespace
+
+aaa_attr_cerrno aaa_attr_list_coalesce(aaa_attr_list_handle list) {
+  BlockView head;
+  if (const aaa_attr_cerrno code = resolve(list, &head)) return code;
+  if (head.block_count() == 0) return 0;
+  if (noted(head, kMayNeedPacking)) {
+    pack_all(head);
+  } else if (!noted(head, kTailsAreClear)) {
+    for (const BlockView block : Blocks(head)) clear_tail(block);
+  }
+  rule_out(head, kMayNeedPacking);
+  note(head, kTailsAreClear);
   return 0;
 }
 

@@ -7,6 +7,7 @@
 
 #include "aaa_attr/marshal/coalesce.h"
 #include "aaa_attr/marshal/flat_order.h"
+#include "aaa_attr/store/unwritten.h"
 
 namespace {
 
@@ -14,47 +15,74 @@ using namespace attrmgr;
 
 constexpr std::uint64_t kMarkerSize = 1;
 
-// The size of the whole buffer.
-aaa_attr_cerrno measure(aaa_attr_list_handle list, std::uint32_t *size) {
-  std::uint64_t total = kMarkerSize;
-  auto add_used = [&total](BlockView block) -> aaa_attr_cerrno {
-    total += block.used();
-    return total > std::numeric_limits<std::uint32_t>::max() ? AAA_ATTR_ERR_BAD_FORMAT : 0;
-  };
-  const aaa_attr_cerrno code = for_each_flat_block(list, add_used);
-  if (code == 0) *size = static_cast<std::uint32_t>(total);
-  return code;
-}
+// The blocks of a list with its sub-lists in the order in which they lie in the buffer, and how long they are together.
+class FlatBlocks {
+ public:
+  aaa_attr_cerrno operator()(BlockView block) {
+    size_ += block.used();
+    if (size_ > std::numeric_limits<std::uint32_t>::max()) return AAA_ATTR_ERR_BAD_FORMAT;
+    if (num_blocks_ < kRemembered) blocks_[num_blocks_].write(block);
+    ++num_blocks_;
+    return 0;
+  }
 
-// Writes a buffer of exactly `size` bytes; what changed since it was measured is refused, not written past the end.
-aaa_attr_cerrno write(aaa_attr_list_handle list, std::byte *buffer, std::uint32_t size) {
+  // Of the whole buffer.
+  std::uint32_t size() const { return static_cast<std::uint32_t>(size_); }
+
+  // Calls visit(block) for each block once more. Those of most lists are remembered; else the lists are walked again.
+  template <class Visit>
+  aaa_attr_cerrno revisit(aaa_attr_list_handle list, Visit &visit) const {
+    if (num_blocks_ > kRemembered) return for_each_flat_block(list, visit);
+    for (std::size_t i = 0; i < num_blocks_; ++i)
+      if (const aaa_attr_cerrno code = visit(blocks_[i].value)) return code;
+    return 0;
+  }
+
+ private:
+  static constexpr std::size_t kRemembered = 64;
+
+  std::uint64_t size_ = kMarkerSize;
+  std::size_t num_blocks_ = 0;
+  Unwritten<BlockView> blocks_[kRemembered];
+};
+
+// Writes a buffer of exactly the size that was measured; a list that has changed since is refused, not written past the
+// end.
+aaa_attr_cerrno write(aaa_attr_list_handle list, const FlatBlocks &blocks, std::byte *buffer) {
   buffer[0] = std::byte{AAA_MARSHAL_BUFFER};
   std::byte *to = buffer + kMarkerSize;
-  std::byte *const end = buffer + size;
+  std::byte *const end = buffer + blocks.size();
   auto copy_used = [&to, end](BlockView block) -> aaa_attr_cerrno {
     const std::size_t used = block.used();
     if (used > static_cast<std::size_t>(end - to)) return AAA_ATTR_ERR_BAD_FORMAT;
     std::memcpy(to, block.bytes(), used);
-    BlockView(to).set_reserved(0);
+    BlockView(to).set_own_word(0);
     to += used;
     return 0;
   };
-  if (const aaa_attr_cerrno code = for_each_flat_block(list, copy_used)) return code;
+  if (const aaa_attr_cerrno code = blocks.revisit(list, copy_used)) return code;
   return to == end ? 0 : AAA_ATTR_ERR_BAD_FORMAT;
 }
 
+aaa_attr_cerrno measure(aaa_attr_list_handle list, std::uint32_t *size) {
+  FlatBlocks blocks;
+  const aaa_attr_cerrno code = for_each_flat_block(list, blocks);
+  if (code == 0) *size = blocks.size();
+  return code;
+}
+
 aaa_attr_cerrno encode(aaa_attr_list_handle list, void *buffer, std::uint32_t *size) {
-  std::uint32_t needed;
-  if (measure(list, &needed) != 0) {
+  FlatBlocks blocks;
+  if (for_each_flat_block(list, blocks) != 0) {
     *size = 0;
     return AAA_ATTR_ERR_BAD_FORMAT;
   }
-  if (buffer == nullptr || *size < needed) {
-    *size = needed;
+  if (buffer == nullptr || *size < blocks.size()) {
+    *size = blocks.size();
     return AAA_ATTR_ERR_BAD_FORMAT;
   }
-  const aaa_attr_cerrno code = write(list, static_cast<std::byte *>(buffer), needed);
-  *size = code == 0 ? needed : 0;
+  const aaa_attr_cerrno code = write(list, blocks, static_cast<std::byte *>(buffer));
+  *size = code == 0 ? blocks.size() : 0;
   return code;
 }
 
@@ -75,10 +103,9 @@ aaa_attr_cerrno aaa_attr_list_to_buffer(aaa_attr_list_handle list, void *buffer,
 }
 
 aaa_attr_cerrno aaa_attr_list_to_buffer_v1(aaa_attr_list_handle list, void *buffer, std::uint32_t *size) {
-  if (size == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   if (const aaa_attr_cerrno code = aaa_attr_list_coalesce(list)) {
     std::fputs("Coalesce on attribute list failed\n", stderr);
     return code;
   }
-  return encode(list, buffer, size);
+  return aaa_attr_list_to_buffer(list, buffer, size);
 }

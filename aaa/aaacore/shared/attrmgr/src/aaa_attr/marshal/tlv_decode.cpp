@@ -4,8 +4,7 @@
 
 #include "aaa_attr/list_ops/release.h"
 #include "aaa_attr/marshal/tlv_format.h"
-#include "aaa_attr/store/list_blocks.h"
-#include "aaa_attr/store/record_appender.h"
+#include "aaa_attr/store/append.h"
 
 namespace attrmgr {
 namespace {
@@ -52,41 +51,52 @@ class TlvDecoder {
   explicit TlvDecoder(const void *owner) : owner_(owner) {}
 
   // Nested bodies are depth levels below the outer one.
-  aaa_attr_cerrno read_body(Reader &reader, BlockView list, unsigned depth) {
+  aaa_attr_cerrno read_body(Reader &reader, BlockView head, unsigned depth) {
     Reader records;
     if (!reader.take_body(&records)) return AAA_ATTR_ERR_BAD_LENGTH;
-    while (records.left() >= kTlvRecordSizeMin)
-      if (const aaa_attr_cerrno code = read_record(records, list, depth)) return code;
+    ListEnd list(head);
+    while (records.left() >= kTlvRecordSizeMin) {
+      NewAttribute attribute{};
+      if (const aaa_attr_cerrno code = read_type_and_meta(records, &attribute)) return code;
+      const bool grouped = (traits_of(attribute.type) & kOwnsSubList) != 0;
+      List sub_list;
+      const aaa_attr_cerrno read = grouped ? read_sub_list(records, depth, &sub_list) : read_value(records, &attribute);
+      if (read != 0) return read;
+      if (grouped) {
+        attribute.value = &sub_list.handle;
+        attribute.length = kHandleSize;
+      }
+      if (const aaa_attr_cerrno code = append(list, attribute)) {
+        release_list(sub_list.handle);
+        return code;
+      }
+    }
     return records.left() == 0 ? 0 : AAA_ATTR_ERR_BAD_LENGTH;
   }
 
  private:
-  aaa_attr_cerrno read_record(Reader &records, BlockView list, unsigned depth) {
-    NewAttribute attribute{};
+  static aaa_attr_cerrno read_type_and_meta(Reader &records, NewAttribute *attribute) {
     std::uint32_t meta_length;
-    if (!records.take_number(&attribute.type)) return AAA_ATTR_ERR_BAD_LENGTH;
-    if (attribute.type == 0 || attribute.type >= AAA_ATTR_TYPE_COUNT) return AAA_ATTR_ERR_NOT_FOUND;
+    if (!records.take_number(&attribute->type)) return AAA_ATTR_ERR_BAD_LENGTH;
+    if (attribute->type == 0 || attribute->type >= AAA_ATTR_TYPE_COUNT) return AAA_ATTR_ERR_NOT_FOUND;
     if (!records.take_number(&meta_length)) return AAA_ATTR_ERR_BAD_LENGTH;
-    if (meta_length != 0) {
-      attribute.meta = records.take(kMetaSize);
-      if (attribute.meta == nullptr) return AAA_ATTR_ERR_BAD_LENGTH;
-    }
-    if (format_of(attribute.type) == AAA_ATTR_FMT_GROUPED) return read_sub_list(records, list, attribute, depth);
-    if (!records.take_number(&attribute.length)) return AAA_ATTR_ERR_BAD_LENGTH;
-    attribute.value = records.take(attribute.length);
-    if (attribute.value == nullptr) return AAA_ATTR_ERR_BAD_LENGTH;
-    return add_attribute(list, attribute);
+    if (meta_length == 0) return 0;
+    attribute->meta = records.take(kMetaSize);
+    return attribute->meta != nullptr ? 0 : AAA_ATTR_ERR_BAD_LENGTH;
   }
 
-  aaa_attr_cerrno read_sub_list(Reader &records, BlockView list, NewAttribute attribute, unsigned depth) {
+  static aaa_attr_cerrno read_value(Reader &records, NewAttribute *attribute) {
+    if (!records.take_number(&attribute->length)) return AAA_ATTR_ERR_BAD_LENGTH;
+    attribute->value = records.take(attribute->length);
+    return attribute->value != nullptr ? 0 : AAA_ATTR_ERR_BAD_LENGTH;
+  }
+
+  // Makes the list of a nested body; there is none on failure.
+  aaa_attr_cerrno read_sub_list(Reader &records, unsigned depth, List *sub_list) {
     if (depth == AAA_ATTR_NESTING_MAX) return AAA_ATTR_ERR_BAD_LENGTH;
-    List made;
-    if (const aaa_attr_cerrno code = create_list(owner_, &made)) return code;
-    attribute.value = &made.handle;
-    attribute.length = kHandleSize;
-    aaa_attr_cerrno code = read_body(records, made.head, depth + 1);
-    if (code == 0) code = add_attribute(list, attribute);
-    if (code != 0) release_list(made.handle);
+    if (const aaa_attr_cerrno code = create_list(owner_, sub_list)) return code;
+    const aaa_attr_cerrno code = read_body(records, sub_list->head, depth + 1);
+    if (code != 0) release_list(sub_list->handle);
     return code;
   }
 

@@ -2,21 +2,17 @@
 #include <cstring>
 #include <limits>
 
-#include <attrmgr/aaa_attr_dict.h>
 #include <attrmgr/aaa_attr_marshal.h>
 
 #include "aaa_attr/marshal/tlv_format.h"
 #include "aaa_attr/store/attribute.h"
 #include "aaa_attr/store/handle_check.h"
+#include "aaa_attr/store/sub_list.h"
 #include "aaa_attr/walk/list_walk.h"
 
 namespace {
 
 using namespace attrmgr;
-
-bool is_sub_list(RecordView record) { return format_of(record.type()) == AAA_ATTR_FMT_GROUPED; }
-
-aaa_attr_list_handle sub_list_of(RecordView record) { return load<aaa_attr_list_handle>(record.value()); }
 
 // Adds the size of the list's records to the total.
 aaa_attr_cerrno measure(aaa_attr_list_handle list, std::uint64_t *total) {
@@ -24,7 +20,7 @@ aaa_attr_cerrno measure(aaa_attr_list_handle list, std::uint64_t *total) {
   if (const aaa_attr_cerrno code = resolve(list, &head)) return code;
   for (const RecordView record : Attributes(head)) {
     *total += kTlvRecordSizeMin + (record.has_meta() ? kMetaSize : 0);
-    if (!is_sub_list(record)) {
+    if (!is_grouped(record)) {
       *total += reported_length(record);
     } else if (const aaa_attr_cerrno code = measure(sub_list_of(record), total)) {
       return code;
@@ -67,7 +63,7 @@ aaa_attr_cerrno write_record(RecordView record, Writer &writer) {
   const std::uint32_t meta_length = record.has_meta() ? kMetaSize : 0;
   if (!writer.put(record.type()) || !writer.put(meta_length)) return AAA_ATTR_ERR_BAD_FORMAT;
   if (!writer.put(record.meta_bytes(), meta_length)) return AAA_ATTR_ERR_BAD_FORMAT;
-  if (is_sub_list(record)) return write_body(sub_list_of(record), writer);
+  if (is_grouped(record)) return write_body(sub_list_of(record), writer);
   const std::uint32_t length = reported_length(record);
   return writer.put(length) && writer.put(record.value(), length) ? 0 : AAA_ATTR_ERR_BAD_FORMAT;
 }

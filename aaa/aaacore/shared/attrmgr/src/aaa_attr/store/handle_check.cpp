@@ -12,6 +12,14 @@ namespace {
 constexpr std::uint32_t kStatusValid = 0;
 constexpr std::uint32_t kStatusStale = 2;
 
+// Where a handle leads, if anywhere.
+void *address_behind(aaa_attr_list_handle list) {
+  if (list == 0) return nullptr;
+  std::uint32_t status = kStatusValid;
+  void *address = id_to_ptr(list, &status, handle_table());
+  return status == kStatusValid ? address : nullptr;
+}
+
 }  // namespace
 
 Resolved look_up(aaa_attr_list_handle list) {
@@ -25,14 +33,20 @@ Resolved look_up(aaa_attr_list_handle list) {
   return {head, 0};
 }
 
-aaa_attr_cerrno check_whole_list(aaa_attr_list_handle list) {
-  BlockView head;
-  if (const aaa_attr_cerrno code = resolve(list, &head)) return code;
-  for (const BlockView block : Blocks(head)) {
-    if (block.magic() == kFreedMagic) return AAA_ATTR_ERR_STALE_HANDLE;
-    if (block.magic() != kBlockMagic) return AAA_ATTR_ERR_BAD_LIST;
+bool names_list_at(aaa_attr_list_handle list, BlockView head) { return head && address_behind(list) == head.bytes(); }
+
+bool name_one_list(aaa_attr_list_handle a, aaa_attr_list_handle b) {
+  return a == b || names_list_at(a, BlockView(static_cast<std::byte *>(address_behind(b))));
+}
+
+Resolved resolve_whole(aaa_attr_list_handle list) {
+  const Resolved resolved = resolve(list);
+  if (resolved.code != 0) return resolved;
+  for (BlockView block = resolved.head.next(); block; block = block.next()) {
+    if (block.magic() == kFreedMagic) return {{}, AAA_ATTR_ERR_STALE_HANDLE};
+    if (block.magic() != kBlockMagic) return {{}, AAA_ATTR_ERR_BAD_LIST};
   }
-  return 0;
+  return resolved;
 }
 
 }  // namespace attrmgr

@@ -36,7 +36,12 @@ inline BlockView head_at(aaa_attr_list_handle list) {
   return resolved.code;
 }
 
-// resolve, and every further block carries the list magic too.
-[[nodiscard]] aaa_attr_cerrno check_whole_list(aaa_attr_list_handle list);
+// Whether a handle names the list that begins with the head, and whether two handles name one list, which may have more
+// than one in a process's own table. What a handle points at is not looked at: it need not be a list at all.
+[[nodiscard]] bool names_list_at(aaa_attr_list_handle list, BlockView head);
+[[nodiscard]] bool name_one_list(aaa_attr_list_handle a, aaa_attr_list_handle b);
+
+// resolve, and every further block carries the list magic too. No head without the code 0.
+[[nodiscard]] Resolved resolve_whole(aaa_attr_list_handle list);
 
 }  // namespace attrmgr

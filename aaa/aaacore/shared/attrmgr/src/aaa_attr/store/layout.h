@@ -7,7 +7,7 @@
 //             meta is present iff flags has kRecordHasMeta; records are packed, never aligned
 //
 // The same bytes, `used` of each block, are the flat form of a list in a buffer. There a block may also have the
-// foreign header, which ends with next:u32 behind `used`. Where the flat form is in network order, the views of
+// foreign header, which ends with next:u32 after `used`. Where the flat form is in network order, the views of
 // views.h read it through another Form.
 #pragma once
 
@@ -33,7 +33,6 @@ inline constexpr std::size_t kNextAt = 16;
 inline constexpr std::size_t kHeaderSize = 24;
 
 inline constexpr std::size_t kSharedHeaderSize = 12;  // up to `used` both headers agree
-inline constexpr std::size_t kForeignNextAt = 12;
 inline constexpr std::size_t kForeignHeaderSize = 16;
 
 // Block flags.
@@ -44,6 +43,17 @@ inline constexpr std::uint8_t kBlockReserved = 0x08;
 inline constexpr std::uint8_t kBlockLayoutMask = 0x30;
 inline constexpr std::uint8_t kBlockLayoutForeign = 0x10;
 inline constexpr std::uint8_t kBlockLayoutNative = 0x20;
+
+// The word at kReservedAt is the library's own, and 0 in every buffer and in a new block. Of any block:
+inline constexpr std::uint32_t kMayHoldSecret = 0x2;  // the block has had a value of a type with the opaque flag
+// Of a head, about its list. A `may` bit that is clear is a certainty, and one that is set is not:
+inline constexpr std::uint32_t kMayNeedPacking = 0x1;   // coalescing may change more than the tails of blocks
+inline constexpr std::uint32_t kMayHoldTypeZero = 0x4;  // a live record of type 0, which ends a client's walk
+inline constexpr std::uint32_t kTailsAreClear = 0x8;    // after the last record of each block there are zeros
+inline constexpr std::uint32_t kListBits = kMayNeedPacking | kMayHoldTypeZero | kTailsAreClear;
+// The rest is a head's tail hint: the distance in bytes from the second block to the last one, a multiple of 16 as
+// malloc aligns, or 0 for none.
+inline constexpr std::uint32_t kTailHint = ~std::uint32_t{0xF};
 
 // Block sizes.
 inline constexpr std::size_t kBlockSize = 512;  // the head, and the least a chained block has

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 
 #include <attrmgr/aaa_platform.h>
 
@@ -21,7 +22,7 @@ inline void write_header(BlockView block, std::size_t size, std::uint8_t flags) 
   block.set_record_count(0);
   block.set_free_bytes(static_cast<std::uint16_t>(size - kHeaderSize));
   block.set_used(kHeaderSize);
-  block.set_reserved(0);
+  block.set_own_word(0);
   block.set_next(BlockView());
 }
 
@@ -33,7 +34,7 @@ aaa_attr_cerrno create_list(const void *owner, List *list) {
   write_header(head, kBlockSize, kBlockHead | kBlockLast | kBlockLayoutNative);
   const aaa_attr_list_handle handle = id_get(head.bytes(), handle_table());
   if (handle == 0) {
-    std::free(head.bytes());
+    free_block(head);
     return AAA_ATTR_ERR_NO_MEMORY;
   }
   *list = {handle, head};
@@ -46,7 +47,7 @@ aaa_attr_cerrno create_checked_list(const void *owner, List *list) {
   BlockView named;
   if (const aaa_attr_cerrno code = resolve(made.handle, &named)) {
     id_delete(made.handle, handle_table());
-    std::free(made.head.bytes());
+    free_block(made.head);
     return code;
   }
   *list = made;
@@ -63,6 +64,7 @@ BlockView aaa_attr_list_add_block(BlockView head, BlockView last, std::size_t si
   last.clear_flags(kBlockLast);
   if (head) {
     head.set_block_count(static_cast<std::uint16_t>(head.block_count() + 1));
+    rule_out(head, kTailsAreClear);
     set_tail(head, block);
   }
   return block;
@@ -71,9 +73,14 @@ BlockView aaa_attr_list_add_block(BlockView head, BlockView last, std::size_t si
 void set_tail(BlockView head, BlockView last) {
   const BlockView second = head.next();
   const std::intptr_t distance = second ? address_of(last) - address_of(second) : 0;
-  const std::intptr_t units = distance / kTailUnit;
-  const bool fits = distance % kTailUnit == 0 && units == static_cast<std::int32_t>(units);
-  head.set_reserved(fits ? static_cast<std::int32_t>(units) : 0);
+  const auto hint = static_cast<std::int32_t>(distance);
+  const bool fits = hint == distance && (static_cast<std::uint32_t>(hint) & ~kTailHint) == 0;
+  head.set_own_word((head.own_word() & ~kTailHint) | (fits ? static_cast<std::uint32_t>(hint) : 0));
+}
+
+void free_block(BlockView block) {
+  if (noted(block, kMayHoldSecret)) explicit_bzero(block.bytes(), block.size());
+  std::free(block.bytes());
 }
 
 }  // namespace attrmgr

@@ -1,4 +1,4 @@
-// The blocks of a list: making a head, chaining a block, finding the last one, going over all.
+// The blocks of a list: making a head, chaining a block, finding the last one, and what a head remembers of its list.
 #pragma once
 
 #include <attrmgr/aaa_attr_types.h>
@@ -18,16 +18,31 @@ struct List {
 // The same, and the new handle is looked up once: a list that the handle table refuses is released again.
 [[nodiscard]] aaa_attr_cerrno create_checked_list(const void *owner, List *list);
 
-// Allocates a block of max(512, size) bytes and chains it behind last. Counts it in the head if one is given; a caller
+// Allocates a block of max(512, size) bytes and chains it after last. Counts it in the head if one is given; a caller
 // that gives none sets block count and tail itself. Null when memory is exhausted or the head counts 65,535 blocks.
 [[nodiscard]] BlockView aaa_attr_list_add_block(BlockView head, BlockView last, std::size_t size);
 
-// The head remembers where the last block is, as a hint in its reserved word: the distance from the second block, in
-// units of what malloc aligns to; 0 when it is too long. Not from the head, which is often of another thread, and so
-// far away: one thread makes a list, another one fills it. Everything that changes a chain sets the hint.
-void set_tail(BlockView head, BlockView last);
+// Frees a block. Of one that may hold a secret nothing stays behind in memory.
+void free_block(BlockView block);
 
-inline constexpr std::intptr_t kTailUnit = 16;
+// ---- What a block remembers of itself, and a head of its list ----
+
+// Whether a block has any of the bits that layout.h names; setting and clearing them.
+inline bool noted(BlockView block, std::uint32_t bits) { return (block.own_word() & bits) != 0; }
+
+inline void note(BlockView block, std::uint32_t bits) { block.set_own_word(block.own_word() | bits); }
+
+inline void rule_out(BlockView block, std::uint32_t bits) { block.set_own_word(block.own_word() & ~bits); }
+
+// Marks a record of the list removed; its place comes back when the list is coalesced.
+inline void remove_record(BlockView head, RecordView record) {
+  record.mark_deleted();
+  note(head, kMayNeedPacking);
+}
+
+// Remembers where the last block is. From the second block, not from the head, which is often of another thread, and
+// so far away: one thread makes a list, another one fills it. Everything that changes a chain sets the hint.
+void set_tail(BlockView head, BlockView last);
 
 // The blocks are separate allocations: distances between them are those of addresses, not of pointers.
 inline std::intptr_t address_of(BlockView block) { return reinterpret_cast<std::intptr_t>(block.bytes()); }
@@ -35,7 +50,8 @@ inline std::intptr_t address_of(BlockView block) { return reinterpret_cast<std::
 inline BlockView last_block(BlockView head) {
   const BlockView second = head.next();
   if (!second) return head;
-  BlockView last(reinterpret_cast<std::byte *>(address_of(second) + head.reserved() * kTailUnit));
+  const auto distance = static_cast<std::int32_t>(head.own_word() & kTailHint);
+  BlockView last(reinterpret_cast<std::byte *>(address_of(second) + distance));
   while (const BlockView next = last.next()) last = next;
   return last;
 }

@@ -10,8 +10,6 @@
 #include <cstdint>
 #include <cstring>
 
-#include <attrmgr/aaa_attr_types.h>
-
 #include "aaa_attr/store/layout.h"
 
 namespace attrmgr {
@@ -90,6 +88,13 @@ class BasicRecord {
   // Header, meta and value. 64 bits wide: the length may be any 32-bit number in a hostile buffer.
   std::uint64_t size() const { return std::uint64_t{value_at()} + length(); }
 
+  // The same for a walk, which takes as long as the way from one record's place to the next one's: with a branch in it,
+  // the processor does not wait for the flags. Most lists have no metas at all, or hardly any.
+  std::uint64_t size_in_walk() const {
+    const std::uint64_t size = kRecordHeaderSize + std::uint64_t{length()};
+    return __builtin_expect_with_probability(has_meta(), 0, 1.0) ? size + kMetaSize : size;
+  }
+
   void set_type(std::uint16_t type) { Form::put(at_ + kRecordTypeAt, type); }
   void set_flags(std::uint16_t flags) { Form::put_record_flags(at_ + kRecordFlagsAt, flags); }
   void set_length(std::uint32_t length) { Form::put(at_ + kRecordLengthAt, length); }
@@ -141,8 +146,8 @@ class BasicBlock {
 
   BasicBlock next() const { return BasicBlock(load<std::byte *>(at_ + kNextAt)); }
   void set_next(BasicBlock next) { store(at_ + kNextAt, next.at_); }
-  std::int32_t reserved() const { return load<std::int32_t>(at_ + kReservedAt); }
-  void set_reserved(std::int32_t value) { store(at_ + kReservedAt, value); }
+  std::uint32_t own_word() const { return load<std::uint32_t>(at_ + kReservedAt); }
+  void set_own_word(std::uint32_t word) { store(at_ + kReservedAt, word); }
 
  private:
   std::byte *at_ = nullptr;
@@ -151,9 +156,4 @@ class BasicBlock {
 using MetaView = BasicMeta<HostForm>;
 using RecordView = BasicRecord<HostForm>;
 using BlockView = BasicBlock<HostForm>;
-
-inline bool is_valid_client_type(std::uint32_t client_type) {
-  return client_type >= AAA_ATTR_CLIENT_TYPE_MIN && client_type <= AAA_ATTR_CLIENT_TYPE_MAX;
-}
-
 }  // namespace attrmgr

@@ -1,10 +1,8 @@
 #include "aaa_attr/walk/cursor_step.h"
 
-#include <attrmgr/aaa_attr_dict.h>
-
+#include "aaa_attr/store/sub_list.h"
 #include "aaa_attr/walk/flat_reader.h"
 #include "aaa_attr/walk/record_scan.h"
-#include "dictionary/type_table.h"
 
 namespace attrmgr {
 namespace {
@@ -17,19 +15,18 @@ void end_walk(aaa_cursor *cursor) {
 std::uint16_t live_grouped_records(BlockView block) {
   std::uint16_t grouped = 0;
   for (RecordScan scan(block); scan.next();)
-    if (!scan.record().deleted() && format_of(scan.record().type()) == AAA_ATTR_FMT_GROUPED) ++grouped;
+    if (!scan.record().deleted() && is_grouped(scan.record())) ++grouped;
   return grouped;
 }
 
-// In a buffer the list goes on behind the nested lists of the block, if `next` says that it goes on at all. Null when
-// it does not, or when the nested lists do not hold together.
+// In a buffer the list goes on after the nested lists of the block, if `next` says that it goes on at all. Null when it
+// does not, when the nested lists do not hold together, or when the block would end in its own header: what comes after
+// it is the block again.
 BlockView next_block_in_buffer(BlockView block) {
-  if (!block.next()) return {};
+  if (!block.next() || block.used() < kHeaderSize) return {};
   if (!block.has(kBlockHoldsGrouped)) return BlockView(block.end());
-  FlatReader<HostForm> nested(block.end(), kUnknownLength, FlatRules::kTrusted, live_grouped_records(block));
-  while (nested.next()) {
-  }
-  return nested.complete() ? BlockView(nested.behind()) : BlockView();
+  TrustedReader nested(block.end(), kUnknownLength, live_grouped_records(block));
+  return nested.read_to_end() ? BlockView(nested.behind()) : BlockView();
 }
 
 bool enter_next_block(aaa_cursor *cursor) {

@@ -1,110 +1,136 @@
 #include "aaa_attr/walk/flat_reader.h"
 
-#include <attrmgr/aaa_attr_dict.h>
-
 #include "aaa_attr/store/network_form.h"
-#include "dictionary/format_rules.h"
-#include "dictionary/type_table.h"
+#include "aaa_attr/store/sub_list.h"
 
 namespace attrmgr {
-template <class Form>
-FlatReader<Form>::FlatReader(const void *bytes, std::uint64_t length, FlatRules rules, std::uint16_t num_lists)
-    // Views are mutable, but a reader only reads: who writes has a buffer of its own to pass.
-    : at_(const_cast<std::byte *>(static_cast<const std::byte *>(bytes))), remaining_(length), rules_(rules) {
-  levels_[0] = {0, num_lists};
-}
 
-template <class Form>
-bool FlatReader<Form>::next() {
+template <class Form, FlatRules kRules>
+bool FlatReader<Form, kRules>::next() {
   if (damaged_) return false;
-  while (levels_[depth_].lists_left == 0 && levels_[depth_].blocks_left == 0) {
-    if (depth_ == 0) {
-      complete_ = true;
-      return false;
+  for (;;) {
+    while (levels_[depth_].lists_left == 0 && levels_[depth_].blocks_left == 0) {
+      if (depth_ == 0) {
+        complete_ = true;
+        return false;
+      }
+      --depth_;
     }
-    --depth_;
+    starts_list_ = levels_[depth_].lists_left > 0;
+    if (!check_header()) return false;
+    if (!starts_list_) break;
+    if (!enter_list()) return false;
+    if (levels_[depth_].blocks_left > 0) break;  // a list of no blocks has no bytes either
   }
-  starts_list_ = levels_[depth_].lists_left > 0;
-  return enter_block();
+  return check_fit() && check_records() && leave_block();
 }
 
-template <class Form>
-bool FlatReader<Form>::enter_block() {
+// What comes first in both layouts.
+template <class Form, FlatRules kRules>
+bool FlatReader<Form, kRules>::check_header() {
   if (remaining_ < kSharedHeaderSize) return false;
   block_ = BasicBlock<Form>(at_);
-  const bool whole = rules_ >= FlatRules::kWhole;
-  if (whole && block_.magic() != kBlockMagic) return false;
-  if (rules_ == FlatRules::kValid && block_.foreign()) return false;
-  header_size_ = whole ? block_.header_size() : kHeaderSize;
-  const std::size_t used = block_.used();
-  if (used < header_size_ || used > remaining_) return false;
-
-  const bool decodable = rules_ >= FlatRules::kDecodable;
-  const std::size_t room = starts_list_ ? kBlockSize : kBlockSizeMax;
-  if (decodable && used - header_size_ + kHeaderSize > room) return false;
-  // A trusted block that claims no Grouped records need not be looked at.
-  const bool holds_grouped = block_.has(kBlockHoldsGrouped);
-  survey_ = decodable ? survey<true>() : whole || holds_grouped ? survey<false>() : Survey{true, false, false, 0};
-  if (!survey_.sound) {
-    if (whole) return false;
-    damaged_ = true;  // the records before the damage can be read
-  }
-  if (decodable && survey_.live_grouped > 0 && !holds_grouped) return false;
-
-  if (starts_list_) {
-    if (!enter_list()) return false;
-  } else if (decodable && block_.has(kBlockHead)) {
-    return false;
-  }
-  Level &level = levels_[depth_];
-  --level.blocks_left;
-  level.lists_left = holds_grouped ? survey_.live_grouped : std::uint16_t{0};
-  if (decodable && level.blocks_left == 0 && !block_.has(kBlockLast)) return false;
-  if (rules_ == FlatRules::kValid && static_cast<bool>(block_.next()) != (level.blocks_left > 0)) return false;
-  at_ += used;
-  remaining_ -= used;
-  return true;
+  return kRules == FlatRules::kTrusted || block_.magic() == kBlockMagic;
 }
 
-template <class Form>
-bool FlatReader<Form>::enter_list() {
-  // The translation takes a block that is no head for a list of its own.
+template <class Form, FlatRules kRules>
+bool FlatReader<Form, kRules>::enter_list() {
+  // The translation takes a block that is no head for a list of its own, and a head of no blocks for nothing at all.
   const bool head = block_.has(kBlockHead);
   const std::uint16_t blocks = head ? block_.block_count() : 1;
-  if (blocks == 0 || (!head && rules_ != FlatRules::kWhole)) return false;
+  if ((blocks == 0 || !head) && kRules != FlatRules::kWhole) return false;
   if (depth_ > AAA_ATTR_NESTING_MAX) return false;
   --levels_[depth_].lists_left;
   ++depth_;
-  levels_[depth_].blocks_left = blocks;
+  levels_[depth_] = {blocks, block_.foreign(), 0};
   return true;
 }
 
-template <class Form>
-template <bool kHoldToPromises>
-typename FlatReader<Form>::Survey FlatReader<Form>::survey() const {
-  Survey found{};
+// The block lies within the bytes, and its records would within a list's.
+template <class Form, FlatRules kRules>
+bool FlatReader<Form, kRules>::check_fit() const {
+  if (kRules == FlatRules::kWhole && block_.foreign() != levels_[depth_].foreign) return false;
+  if (kRules == FlatRules::kValid && block_.foreign()) return false;
+  const std::size_t used = block_.used();
+  if (used < header_size() || used > remaining_) return false;
+  const std::size_t room = starts_list_ ? kBlockSize : kBlockSizeMax;
+  return kRules < FlatRules::kDecodable || used - header_size() + kHeaderSize <= room;
+}
+
+template <class Form, FlatRules kRules>
+bool FlatReader<Form, kRules>::check_records() {
+  const bool holds_grouped = block_.has(kBlockHoldsGrouped);
+  if constexpr (kRules == FlatRules::kTrusted) {
+    // A block that claims no Grouped records need not be looked at. Of a damaged one, the records before the damage can
+    // be read, but nothing after it can be found.
+    findings_ = holds_grouped ? look_over() : Findings{true, false, false, 0, 0};
+    damaged_ = !findings_.sound;
+    return true;
+  }
+  findings_ = look_over();
+  if (kRules < FlatRules::kDecodable) return findings_.sound;
+  return findings_.sound && (findings_.live_grouped == 0 || holds_grouped) && (starts_list_ || !block_.has(kBlockHead));
+}
+
+// Counts the block off, and the lists that follow it.
+template <class Form, FlatRules kRules>
+bool FlatReader<Form, kRules>::leave_block() {
+  Level &level = levels_[depth_];
+  --level.blocks_left;
+  level.lists_left = block_.has(kBlockHoldsGrouped) ? findings_.live_grouped : std::uint16_t{0};
+  if (kRules >= FlatRules::kDecodable && level.blocks_left == 0 && !block_.has(kBlockLast)) return false;
+  if (kRules == FlatRules::kValid && static_cast<bool>(block_.next()) != (level.blocks_left > 0)) return false;
+  at_ += block_.used();
+  remaining_ -= block_.used();
+  return true;
+}
+
+// Types and lengths come in no order that a processor could foresee: what the usual record asks for is summed up, not
+// branched on. Records that are removed, or of one of the few types with more to them, are looked at closer.
+template <class Form, FlatRules kRules>
+typename FlatReader<Form, kRules>::Findings FlatReader<Form, kRules>::look_over() const {
+  constexpr bool kChecksValues = kRules >= FlatRules::kDecodable;
+  Findings found{};
   std::uint32_t broken = 0;
   BasicRecordScan<Form> scan = records();
   while (scan.next()) {
     const BasicRecord<Form> record = scan.record();
-    const Promise promise = promise_of(record.type());
-    if (promise == Promise::kNothing) continue;
-    if (promise == Promise::kSubList) [[unlikely]] {
-      found.any_grouped = true;
-      if (record.deleted()) continue;
-      ++found.live_grouped;
-      if (kHoldToPromises) broken |= record.length() != kHandleSize;
-    } else if (promise == Promise::kEnd) {
-      found.any_type_zero |= !record.deleted();
-    } else if (kHoldToPromises && !record.deleted()) {
-      broken |= record.length() == 0 || scan.behind()[-1] != std::byte{0};
+    const std::uint8_t traits = traits_of(record.type());
+    if (record.deleted()) [[unlikely]] {
+      found.any_removed = true;
+      found.type_traits |= traits;
+      continue;
+    }
+    if ((traits & ~kEndsInNul) != 0) [[unlikely]] {
+      found.type_traits |= traits;
+      found.any_live_zero |= (traits & kEndsWalk) != 0;
+      if ((traits & kOwnsSubList) != 0) {
+        ++found.live_grouped;
+        if (kChecksValues) broken |= record.length() != kHandleSize;
+      }
+    }
+    if (kChecksValues) {
+      const bool no_nul = (scan.behind()[-1] != std::byte{0}) | (record.length() == 0);
+      broken |= traits & static_cast<std::uint32_t>(no_nul);
     }
   }
-  found.sound = broken == 0 && (rules_ == FlatRules::kTrusted ? !scan.overrun() : scan.exact());
+  static_assert(kEndsInNul == 1);
+  found.sound = (broken & 1) == 0 && (kRules == FlatRules::kTrusted ? !scan.overrun() : scan.exact());
   return found;
 }
 
-template class FlatReader<HostForm>;
-template class FlatReader<NetworkForm>;
+template <class Form, FlatRules kRules>
+std::uint32_t FlatReader<Form, kRules>::list_bits() const {
+  const bool claims_grouped = block_.has(kBlockHoldsGrouped) && !has_grouped();
+  const bool empty = !starts_list_ && block_.record_count() == 0;
+  const bool to_pack = findings_.any_removed || claims_grouped || empty || block_.has(kBlockReserved);
+  return (to_pack ? kMayNeedPacking : 0) | (findings_.any_live_zero ? kMayHoldTypeZero : 0);
+}
+
+template class FlatReader<HostForm, FlatRules::kTrusted>;
+template class FlatReader<HostForm, FlatRules::kWhole>;
+template class FlatReader<NetworkForm, FlatRules::kWhole>;
+template class FlatReader<HostForm, FlatRules::kDecodable>;
+template class FlatReader<HostForm, FlatRules::kValid>;
 
 }  // namespace attrmgr

@@ -13,6 +13,7 @@
 
 #include "aaa_attr/store/views.h"
 #include "aaa_attr/walk/record_scan.h"
+#include "dictionary/type_table.h"
 
 namespace attrmgr {
 
@@ -20,64 +21,86 @@ namespace attrmgr {
 enum class FlatRules {
   kTrusted,    // 24-byte headers; a list begins with a head block; nothing is known of the buffer's end
   kWhole,      // either header; magic, lengths and counts add up
-  kDecodable,  // flags and block counts agree, values are what readers are promised, blocks fit a list's
+  kDecodable,  // flags and block counts agree, values are what readers rely on, blocks fit a list's
   kValid,      // 24-byte headers, and `next` is zero exactly in the last block of each list
 };
 
 inline constexpr std::uint64_t kUnknownLength = ~std::uint64_t{0};
 
-template <class Form>
+template <class Form, FlatRules kRules>
 class FlatReader {
  public:
   // Reads num_lists lists that begin at bytes and lie within length bytes.
-  FlatReader(const void *bytes, std::uint64_t length, FlatRules rules, std::uint16_t num_lists = 1);
+  explicit FlatReader(const void *bytes, std::uint64_t length = kUnknownLength, std::uint16_t num_lists = 1)
+      // Views are mutable, but a reader only reads: who writes has a buffer of its own to pass.
+      : at_(const_cast<std::byte *>(static_cast<const std::byte *>(bytes))), remaining_(length) {
+    levels_[0] = {0, false, num_lists};
+  }
 
-  // Goes to the next block. False behind the last one, and at a block that breaks the rules.
+  // Goes to the next block. False after the last one, and at a block that breaks the rules.
   bool next();
 
-  // After next() gave false: whether it was behind the last block.
+  // Reads all blocks that are left, and tells whether none breaks the rules.
+  bool read_to_end() {
+    while (next()) {
+    }
+    return complete_;
+  }
+
+  // After next() gave false: whether it was after the last block.
   bool complete() const { return complete_; }
 
   BasicBlock<Form> block() const { return block_; }
-  std::size_t header_size() const { return header_size_; }
-  BasicRecordScan<Form> records() const { return BasicRecordScan<Form>(block_, header_size_); }
+  // As long as the block is not rewritten.
+  std::size_t header_size() const {
+    return kRules == FlatRules::kWhole || kRules == FlatRules::kDecodable ? block_.header_size() : kHeaderSize;
+  }
+  BasicRecordScan<Form> records() const { return BasicRecordScan<Form>(block_, header_size()); }
   bool starts_list() const { return starts_list_; }
-  // From kWhole on: whether the block has Grouped records, be they removed, and live ones of type 0.
-  bool has_grouped() const { return survey_.any_grouped; }
-  bool has_type_zero() const { return survey_.any_type_zero; }
+  // From kWhole on: whether the block has Grouped records, be they removed, may hold a secret, and what it means to the
+  // list that takes it in, in bits of kListBits.
+  bool has_grouped() const { return (findings_.type_traits & kOwnsSubList) != 0; }
+  bool holds_secret() const { return (findings_.type_traits & kHoldsSecret) != 0; }
+  std::uint32_t list_bits() const;
   unsigned depth() const { return depth_ - 1; }  // 0 for the outer list
-  std::byte *behind() const { return at_; }      // the byte behind the blocks read so far
+  std::byte *behind() const { return at_; }      // the byte after the blocks read so far
 
  private:
   struct Level {
     std::uint16_t blocks_left;  // of the list at this level
-    std::uint16_t lists_left;   // nested lists still to come behind its current block
+    bool foreign;               // its first block has the foreign layout
+    std::uint16_t lists_left;   // nested lists still to come after its current block
   };
 
   // What one pass over a block's records tells.
-  struct Survey {
-    bool sound;                  // the records are as many as counted, fill the block and keep what is promised of them
-    bool any_grouped;            // there are Grouped records, be they removed
-    bool any_type_zero;          // there are live records of type 0
+  struct Findings {
+    bool sound;  // the records are as many as counted, fill the block and are what readers rely on
+    bool any_removed;
+    bool any_live_zero;          // of type 0, at which a client's walk ends
+    std::uint8_t type_traits;    // of all records; kEndsInNul says nothing
     std::uint16_t live_grouped;  // those that own a nested list
   };
 
   bool enter_block();
+  bool check_header();
+  bool check_fit() const;
+  bool check_records();
   bool enter_list();
-  template <bool kHoldToPromises>
-  Survey survey() const;
+  bool leave_block();
+  Findings look_over() const;
 
   std::byte *at_;
   std::uint64_t remaining_;
-  FlatRules rules_;
   BasicBlock<Form> block_;
-  std::size_t header_size_ = kHeaderSize;
   bool starts_list_ = false;
   bool complete_ = false;
-  bool damaged_ = false;  // a trusted block's records pass its end: nothing behind it can be found
+  bool damaged_ = false;  // a trusted block's records pass its end: nothing after it can be found
   unsigned depth_ = 0;    // level 0 stands for what contains the lists to read
-  Survey survey_{};
+  Findings findings_{};
   Level levels_[AAA_ATTR_NESTING_MAX + 2];  // written as they are entered
 };
+
+// Reads bytes that only their block lengths are known of.
+using TrustedReader = FlatReader<HostForm, FlatRules::kTrusted>;
 
 }  // namespace attrmgr

@@ -2,18 +2,20 @@
 
 #include <cstring>
 
-#include "aaa_attr/store/type_zero.h"
-
 namespace attrmgr {
 namespace {
 
-// Lengths and small numbers have the two bytes of a low type all over a block, and few records are walked as soon as
-// searched.
+// Lengths and small numbers have the two bytes of a low type all over a block.
 constexpr std::uint16_t kLowestSearchedType = 128;
-constexpr std::uint16_t kFewRecords = 8;
 
 using Bytes [[gnu::vector_size(32)]] = std::uint8_t;
 using Words [[gnu::vector_size(32)]] = std::uint64_t;
+
+// Two vectors at a time: the blocks of a list are of nearly one length, and most then take as many strides.
+constexpr std::size_t kStride = 2 * sizeof(Bytes);
+
+// The search looks at whole strides; what is shorter is walked as soon as searched.
+constexpr std::uint16_t kLeastUsed = kHeaderSize + 1 + kStride;
 
 // The two bytes of a type as they lie in a record, each at every place of a vector.
 struct Pair {
@@ -30,17 +32,22 @@ struct Pair {
 // Adds to *found where, among the places of a vector, the pair stands.
 [[gnu::always_inline]] inline void look(const std::byte *at, const Pair &pair, Words *found) {
   Bytes here;
-  Bytes behind;
+  Bytes after;
   std::memcpy(&here, at, sizeof here);
-  std::memcpy(&behind, at + 1, sizeof behind);
-  *found |= reinterpret_cast<Words>((here == pair.first) & (behind == pair.second));
+  std::memcpy(&after, at + 1, sizeof after);
+  *found |= reinterpret_cast<Words>((here == pair.first) & (after == pair.second));
 }
 
-// Whether the pair stands anywhere among the block's records. What is left of the last vector is looked at twice.
+// Whether the pair stands anywhere among the block's records, of more than kLeastUsed bytes. What is left of the last
+// stride is looked at twice.
 [[gnu::always_inline]] inline bool holds(BlockView block, const Pair &pair) {
   const std::size_t places = static_cast<std::size_t>(block.end() - block.records()) - 1;
   Words found{};
-  for (std::size_t i = 0; i + sizeof(Bytes) < places; i += sizeof(Bytes)) look(block.records() + i, pair, &found);
+  for (std::size_t i = 0; i + kStride < places; i += kStride) {
+    look(block.records() + i, pair, &found);
+    look(block.records() + i + sizeof(Bytes), pair, &found);
+  }
+  look(block.end() - 1 - kStride, pair, &found);
   look(block.end() - 1 - sizeof(Bytes), pair, &found);
   return (found[0] | found[1] | found[2] | found[3]) != 0;
 }
@@ -51,7 +58,7 @@ struct Pair {
   Pair pair;
   fill(bytes[0], &pair.first);
   fill(bytes[1], &pair.second);
-  while (block && block.record_count() >= kFewRecords && !holds(block, pair)) block = block.next();
+  while (block && block.used() > kLeastUsed && !holds(block, pair)) block = block.next();
   return block;
 }
 
@@ -65,13 +72,10 @@ BlockView pass_over_fast(BlockView block, std::uint16_t type) {
 BlockView pass_over_fast(BlockView block, std::uint16_t type) { return pass_over(block, type); }
 #endif
 
-// The search looks at whole vectors.
-static_assert(kFewRecords * kRecordHeaderSize > sizeof(Bytes));
-
 }  // namespace
 
 BlockView next_to_walk(BlockView block, std::uint16_t type) {
-  if (type < kLowestSearchedType || may_meet_type_zero()) return block;
+  if (type < kLowestSearchedType) return block;
   return pass_over_fast(block, type);
 }
 

@@ -11,8 +11,7 @@
 
 namespace attrmgr {
 
-// The block or, from it on, the next one in which the walk might find a record of the type, or end at one of type 0.
-// Null when there is none.
+// The block or, from it on, the next one in which the walk might find a record of the type. Null when there is none.
 BlockView next_to_walk(BlockView block, std::uint16_t type);
 
 struct Place {
@@ -25,12 +24,13 @@ class RecordsOfType {
   class Iterator {
    public:
     Iterator() = default;  // at the end
-    Iterator(BlockView first, std::uint16_t type) : type_(type) {
-      if (enter(first)) ++*this;
+    Iterator(BlockView head, std::uint16_t type) : type_(type), searches_(!noted(head, kMayHoldTypeZero)) {
+      if (enter(head)) ++*this;
     }
-    // From a place on; its record may have been removed meanwhile.
-    Iterator(Place place, std::uint16_t type)
+    // From a place in the list on; its record may have been removed meanwhile.
+    Iterator(BlockView head, Place place, std::uint16_t type)
         : type_(type),
+          searches_(!noted(head, kMayHoldTypeZero)),
           block_(place.block),
           scan_(place.record.bytes() + place.record.size(), place.block.end(), kUncounted),
           record_(place.record) {
@@ -55,29 +55,30 @@ class RecordsOfType {
     }
 
    private:
-    // How many records lie behind a place is not known; where they end is.
+    // How many records come after a place is not known; where they end is.
     static constexpr std::uint16_t kUncounted = 0xFFFF;
 
     bool enter(BlockView block) {
-      block_ = block ? next_to_walk(block, type_) : block;
+      block_ = block && searches_ ? next_to_walk(block, type_) : block;
       if (block_) scan_ = RecordScan(block_);
       return static_cast<bool>(block_);
     }
 
     std::uint16_t type_ = 0;
+    bool searches_ = false;  // no record of type 0 may lie in a block that is passed over
     BlockView block_;
     RecordScan scan_;
     RecordView record_;
   };
 
   // Records have 16 bits for the type. A wider number, like 0, is found nowhere.
-  RecordsOfType(BlockView first, std::uint32_t type)
-      : first_(first), type_(type <= kRecordTypeMax ? static_cast<std::uint16_t>(type) : std::uint16_t{0}) {}
-  Iterator begin() const { return Iterator(first_, type_); }
+  RecordsOfType(BlockView head, std::uint32_t type)
+      : head_(head), type_(type <= kRecordTypeMax ? static_cast<std::uint16_t>(type) : std::uint16_t{0}) {}
+  Iterator begin() const { return Iterator(head_, type_); }
   WalkEnd end() const { return {}; }
 
  private:
-  BlockView first_;
+  BlockView head_;
   std::uint16_t type_;
 };
 

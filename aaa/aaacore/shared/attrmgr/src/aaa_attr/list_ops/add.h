@@ -1,0 +1,32 @@
+// Adding an attribute to the list that a handle names.
+#pragma once
+
+#include <attrmgr/aaa_attr_types.h>
+
+#include "aaa_attr/store/append.h"
+#include "aaa_attr/store/handle_check.h"
+
+namespace attrmgr {
+
+// Whether the attribute would make a list its own sub-list. Such a list could be neither walked to its end nor copied.
+inline bool adds_to_itself(BlockView head, const NewAttribute &attribute, const NewRecord &record) {
+  return record.format == AAA_ATTR_FMT_GROUPED &&
+         names_list_at(load<aaa_attr_list_handle>(static_cast<const std::byte *>(attribute.value)), head);
+}
+
+[[nodiscard]] inline aaa_attr_cerrno add_attribute(BlockView head, const NewAttribute &attribute) {
+  const NewRecord record = measure(attribute);
+  if (const aaa_attr_cerrno code = check_length(attribute, record)) return code;
+  if (adds_to_itself(head, attribute, record)) return AAA_ATTR_ERR_BAD_ARG;
+  ListEnd list(head);
+  return append_checked(list, attribute, record);
+}
+
+// aaa_attr_add_v1, for whatever comes.
+[[nodiscard]] inline aaa_attr_cerrno add_attribute(aaa_attr_list_handle list, const NewAttribute &attribute) {
+  if (const aaa_attr_cerrno code = check_presence(attribute)) return code;
+  const Resolved resolved = resolve(list);
+  return resolved.code == 0 ? add_attribute(resolved.head, attribute) : resolved.code;
+}
+
+}  // namespace attrmgr
