@@ -1,14 +1,12 @@
 // The input is a program: eleven bytes a step, each an operation on a few lists, wrong arguments included. The library
-// must do what the plain model of the tests does. An odd number of bytes behind the last step: without type 0.
+// must do what the plain model of the tests does. An odd number of bytes after the last step: without type 0.
 #include <cstdio>
 #include <cstdlib>
 #include <stdexcept>
 
-#include "aaa_attr/store/type_zero.h"
 #include "model/operations.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
-  attrmgr::type_zero_seen = false;  // inputs are processes of their own
   const bool type_zero = size % std::tuple_size_v<model::Step> % 2 == 0;
   model::World world;
   try {

@@ -13,7 +13,11 @@
 
 namespace {
 
-// A handle is a place in the table, which is never given out again.
+// A handle is a place in the table, which is never given out again. The table ignores some of its bits, so that every
+// list has many handles.
+constexpr std::uint64_t kPlace = 0xFFFF;
+constexpr std::uint64_t kOtherHandle = 0x10000;
+
 struct {
   std::vector<void *> blocks{nullptr};
   std::uint16_t number = 0;  // 0: none can be created
@@ -53,14 +57,14 @@ std::uint64_t id_get(void *block, std::uint16_t number) {
 void *id_to_ptr(std::uint64_t handle, std::uint32_t *status, std::uint16_t number) {
   table.number_seen = number;
   const bool forced = table.answer.handle == handle && table.answer.after-- <= 0;
-  void *block = forced && table.answer.null ? nullptr : table.blocks.at(handle);
+  void *block = forced && table.answer.null ? nullptr : table.blocks.at(handle & kPlace);
   *status = forced ? table.answer.status : block != nullptr ? 0 : 2;
   return block;
 }
 
 void id_delete(std::uint64_t handle, std::uint16_t number) {
   EXPECT_EQ(number, table.number);
-  table.blocks.at(handle) = nullptr;
+  table.blocks.at(handle & kPlace) = nullptr;
 }
 
 chunk_pool *chunk_create(const char *name, std::uint32_t size, std::uint32_t per_chunk, std::uint32_t flags,
@@ -165,6 +169,34 @@ TEST_F(Replaced, ASecondLookupThatFailsIsReportedAndNothingFreed) {
     table.answer = {};
     EXPECT_EQ(table.live(), 1);
   }
+}
+
+// A list is not its own source, whichever of its handles it is given by.
+TEST_F(Replaced, OneListUnderTwoHandlesIsOneList) {
+  using Handle = aaa_attr_list_handle;
+  const std::pair<const char *, aaa_attr_cerrno (*)(Handle, Handle)> rows[] = {
+      {"append_list", aaa_attr_list_append_list},
+      {"merge_with_replace", aaa_attr_list_merge_with_replace},
+      {"merge_double_dip", aaa_attr_list_merge_double_dip},
+      {"copy_by_type", [](Handle a, Handle b) { return aaa_attr_list_copy_by_type(a, b, type::kString); }},
+      {"merge_list", aaa_attr_list_merge_list},
+      {"replace_and_add", aaa_attr_list_replace_and_add},
+      {"replace_and_add_v1", [](Handle a, Handle b) { return aaa_attr_list_replace_and_add_v1(&a, &b); }},
+      {"add to itself", [](Handle a, Handle b) { return aaa_attr_add(a, type::kGrouped, &b, sizeof b, nullptr); }},
+  };
+  List list;
+  list.text(type::kString, "x").number(type::kUlong, 1);
+  const std::string before = outline(list);
+  for (const auto &[name, call] : rows) {
+    EXPECT_EQ(call(list, list | kOtherHandle), AAA_ATTR_ERR_BAD_ARG) << name;
+    EXPECT_EQ(call(list | kOtherHandle, list), AAA_ATTR_ERR_BAD_ARG) << name;
+    EXPECT_EQ(outline(list), before) << name;
+  }
+  const Handle sub_list = list.group(type::kGrouped), same = sub_list | kOtherHandle;
+  const aaa_attr_meta meta = {1, 0, 0, 0, 0};
+  EXPECT_EQ(aaa_attr_add_or_replace_v1(list, type::kGrouped, &same, sizeof same, &meta), AAA_ATTR_ERR_BAD_ARG);
+  EXPECT_EQ(aaa_attr_add_or_replace(list, type::kGrouped, &same, sizeof same, nullptr), 0u);
+  EXPECT_EQ(outline(list), before + " 444={}") << "the sub-list stays, under its other handle";
 }
 
 // Every way to make a list takes a head on behalf of the client, and withdraws all its handles in the end.

@@ -2,8 +2,10 @@
 // operation gets through. Whatever fails, the code says so, nothing leaks and the source is as it was. Linked with the
 // static library, so that the platform layer defined here stands in for the library's own in that link too.
 #include <gtest/gtest.h>
+#include <malloc.h>
 
 #include <cstdlib>
+#include <string_view>
 
 #include "support/lists.h"
 
@@ -12,6 +14,10 @@ namespace {
 int live = 0;        // allocations not yet freed
 int countdown = 0;   // the allocation to fail, counted from now; 0: none
 bool stays = false;  // and all after it
+
+// Text that must not be in memory that is given back, and how often it was.
+std::string_view secret;
+int given_back = 0;
 
 bool fails() {
   if (countdown == 0 || --countdown > 0) return false;
@@ -43,6 +49,10 @@ void *__wrap_calloc(std::size_t count, std::size_t size) {
 char *__wrap_strdup(const char *text) { return fails() ? nullptr : __real_strdup(text); }
 void __wrap_free(void *memory) {
   live -= memory != nullptr;
+  if (memory != nullptr && !secret.empty()) {
+    const std::string_view bytes(static_cast<const char *>(memory), malloc_usable_size(memory));
+    given_back += bytes.find(secret) != std::string_view::npos;
+  }
   __real_free(memory);
 }
 }
@@ -167,6 +177,53 @@ TEST(OutOfMemory, EqualityDoesWithout) {
   EXPECT_EQ(aaa_attr_list_eq(list, reversed), 1);
   EXPECT_EQ(aaa_attr_list_eq(list, other), 0);
   EXPECT_EQ(std::exchange(countdown, 0), 1) << "something was asked for";
+}
+
+// A list with the text in a value of the type: in its head, in a chained block, removed, and in a sub-list.
+List with_text(std::uint32_t type, std::string_view text) {
+  List list;
+  list.text(type, text).text(type::kBinary, std::string(480, 'x')).text(type, text);
+  list.text(type, text).text(type::kBinary, std::string(900, 'y'));
+  aaa_cursor *cursor = nullptr;
+  aaa_cursor_alloc(list, &cursor);
+  aaa_cursor_get_next(cursor);
+  aaa_cursor_remove(cursor);
+  aaa_cursor_free(cursor);
+  List(list.group(type::kGrouped)).text(type, text).release();
+  return list;
+}
+
+// How often the text is in a block that is given back: when the list is freed, packed, filtered, copied, spliced,
+// decoded from either form, and refused.
+int times_given_back(std::uint32_t type, std::string_view text) {
+  given_back = 0;
+  {
+    List list = with_text(type, text), other = with_text(type, text), decoded;
+    Bytes flat = flat_buffer(list), tlv = tlv_buffer(list);
+    secret = text;
+    List copy(0);
+    aaa_attr_list_copy(list, copy.out());
+    decode(flat, &decoded);
+    decode(tlv, &decoded);
+    flat.pop_back();
+    EXPECT_NE(decode(flat, &decoded), 0u);
+    tlv[1] = static_cast<std::uint8_t>(tlv[1] - 1);
+    EXPECT_NE(decode(tlv, &decoded), 0u);
+    const std::uint32_t kept[] = {type::kBinary};
+    aaa_attr_filter_on_type(copy.out(), kept, 1);
+    aaa_attr_list_merge_list(list, other.release());
+    aaa_attr_remove(list, type);
+    std::uint32_t size = 0;
+    aaa_attr_list_buffer_coalesce_and_get_len(list, &size);
+  }
+  secret = {};
+  return given_back;
+}
+
+TEST(Secrets, DoNotOutliveTheirList) {
+  const std::string text = "correct horse battery staple";
+  EXPECT_EQ(times_given_back(type::kSecret, text), 0);
+  EXPECT_GT(times_given_back(type::kClientId, text), 10) << "no secret: the test sees what is given back";
 }
 
 TEST(OutOfMemory, Registration) {

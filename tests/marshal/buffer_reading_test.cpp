@@ -137,4 +137,43 @@ TEST(BufferCursor, VisitsTheOuterListOnly) {
             "444:33 444:65 444:369 26:385 ");
 }
 
+// A buffer is no list: whatever address its first bytes make, a reset does not follow it.
+TEST(BufferCursor, IsNotReset) {
+  Bytes list_magic = hex("cd ab 01 23");
+  list_magic.resize(64);
+  for (const Bytes &buffer : {hex(golden::kNested), list_magic}) {
+    aaa_cursor *cursor = nullptr;
+    ASSERT_EQ(aaa_cursor_alloc_from_buffer(buffer.data(), &cursor), 0u);
+    EXPECT_EQ(aaa_cursor_reset(cursor), AAA_ATTR_ERR_BAD_LIST);
+    EXPECT_EQ(cursor->block, reinterpret_cast<const aaa_attr_block *>(buffer.data() + 1)) << "where it was";
+    aaa_cursor_free(cursor);
+  }
+}
+
+// A removed record owns no nested list: it would become part of the outer one. So a Grouped record stays.
+TEST(BufferCursor, RemovesWhatNestsNoList) {
+  Bytes buffer = hex(golden::kNested);
+  aaa_cursor *cursor = nullptr;
+  ASSERT_EQ(aaa_cursor_alloc_from_buffer(buffer.data(), &cursor), 0u);
+  while (aaa_cursor_get_next(cursor) != 0) aaa_cursor_remove(cursor);
+  aaa_cursor_free(cursor);
+  EXPECT_EQ(buffer, patched(hex(golden::kNested), "27=03 151=02")) << "type 197 and 2";
+  EXPECT_EQ(visited(buffer), "444:53 445:141 ");
+  List list;
+  EXPECT_EQ(decode(buffer, &list), 0u);
+  EXPECT_EQ(outline(list), "444={2=05000000} 445@5={}");
+}
+
+// The block after one that ends in its own header would be that block again.
+TEST(BufferCursor, EndsAtABlockThatEndsInItsHeader) {
+  for (const char *used : {"11=0000", "11=1700"})
+    for (const char *flags : {"4=21", "4=25"}) {
+      const Bytes buffer = patched(patched(hex(golden::kNested), used), flags);
+      EXPECT_EQ(visited(buffer), "") << used << ' ' << flags;
+      testing::internal::CaptureStdout();
+      aaa_attr_list_buffer_print(buffer.data());
+      EXPECT_EQ(testing::internal::GetCapturedStdout().find("\n1:"), std::string::npos) << used << ' ' << flags;
+    }
+}
+
 }  // namespace

@@ -105,7 +105,8 @@ TEST(ByteOrder, EveryType) {
 
 TEST(ByteOrder, ArgumentsAreRefused) {
   const std::pair<int, const char *> rows[] = {
-      {0, golden::kNested}, {3, golden::kNested}, {1, ""}, {1, golden::kTlvNested}, {2, golden::kTlvNested}};
+      {0, golden::kNested},    {3, golden::kNested},   {4, golden::kNested}, {-1, golden::kNested}, {1, ""},
+      {1, golden::kTlvNested}, {2, golden::kTlvNested}};
   for (const auto &[direction, given] : rows)
     for (const auto call : {translate, translate_v1}) {
       Bytes buffer = hex(given);

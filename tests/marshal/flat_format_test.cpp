@@ -1,4 +1,4 @@
-// Buffers as bytes: what is written, in which order, what coalescing leaves; gather lists, IPv6 prefix values.
+// Buffers as bytes: what is written, in which order; gather lists, IPv6 prefix values.
 #include <attrmgr/attrmgr.h>
 #include <gtest/gtest.h>
 
@@ -80,30 +80,6 @@ TEST(BufferFormat, BrokenSubListsAreRefused) {
   EXPECT_EQ(aaa_attr_list_tlv_buffer_len(outer, &size), AAA_ATTR_ERR_BAD_LIST);
   EXPECT_EQ(aaa_attr_list_to_array(outer, &entries, &size), AAA_ATTR_ERR_BAD_LIST);
   EXPECT_EQ(size, 99u);
-}
-
-TEST(Coalesce, DropsHolesAndEmptyBlocks) {
-  List list;
-  list.group(444);
-  list.number(2, 1).number(3, 2).number(2, 3).text(30, std::string(380, 'a'));
-  list.text(31, std::string(300, 'b')).number(4, 4);  // a block that becomes empty
-  list.text(26, std::string(200, 'c')).number(7, 5);
-  for (const unsigned type : {3u, 31u, 4u, 30u}) aaa_attr_remove(list, type);
-  std::uint32_t size = 0;
-  EXPECT_EQ(aaa_attr_list_buffer_coalesce_and_get_len(list, &size), 0u);
-  EXPECT_EQ(size, flat_buffer(list).size());
-  EXPECT_EQ(shape(list), "25 2 3 64+448 | 22 1 2 244+268");
-
-  // The last block goes, too; the first becomes the last and holds no sub-list, and the list goes on there.
-  for (const unsigned type : {444u, 26u, 7u}) aaa_attr_remove(list, type);
-  Bytes buffer(size);
-  EXPECT_EQ(aaa_attr_list_to_buffer_v1(list, buffer.data(), &size), 0u);
-  const Bytes records = join({record(2, {"\1\0\0\0", 4}), record(2, {"\3\0\0\0", 4})});
-  EXPECT_EQ(head_of(buffer, size), join({hex("01 cdab0123 0100 0200 d001 3000 00000000 0000000000000000"), records}));
-  std::uint32_t status = 0;
-  const auto *head = static_cast<const std::uint8_t *>(id_to_ptr(list, &status, 0));
-  EXPECT_EQ(Bytes(head + 48, head + 512), Bytes(464)) << "no removed value is left behind";
-  EXPECT_EQ(shape(list.number(3, 7).text(30, std::string(480, 'd'))), "21 2 3 60+452 | 22 1 1 512+0");
 }
 
 TEST(Gather, EntriesAddUpToTheFlatBuffer) {

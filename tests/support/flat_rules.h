@@ -33,8 +33,6 @@ class Reading {
   bool decodable() const { return decodable_; }
   bool valid() const { return decodable_ && read_in_place_; }
   bool translatable() const { return decodable_; }
-  // A list of no blocks stays in the form that it is in, and so its buffer does not come back from the other one.
-  bool has_empty_list() const { return has_empty_list_; }
 
   // All records in the order in which they lie, and those of each list; list 0 is the outer one.
   const std::vector<Record> &records() const { return records_; }
@@ -71,10 +69,7 @@ class Reading {
       const std::size_t header = (flags & kLayout) == kForeign ? 16 : 24;
       if (number(at_, 2) != 0xABCD) return false;
       if (first && (head || !translation_)) blocks = number(at_ + 4, 2);  // else a list of one block
-      if (blocks == 0) {
-        has_empty_list_ = true;
-        return translation_;  // to which there is nothing of it
-      }
+      if (blocks == 0) return translation_ && depth == 0;  // there is nothing to translate
       if (first) first_header = header;
       if (translation_ && header != first_header) return false;
       const std::size_t used = number(at_ + 10, 2);
@@ -140,7 +135,7 @@ class Reading {
   const std::uint8_t *bytes_;
   std::size_t size_, at_ = 1;
   bool translation_;
-  bool decodable_ = false, read_in_place_, has_empty_list_ = false;
+  bool decodable_ = false, read_in_place_;
   std::vector<Record> records_;
   std::vector<std::vector<std::size_t>> lists_;
 };

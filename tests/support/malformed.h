@@ -117,6 +117,7 @@ inline std::vector<Case> record_cases() {
 inline std::vector<Case> chain_cases() {
   return {
       nested("a list of no blocks", "5=0000", "DV", "the block that says so is one; there is nothing to translate"),
+      nested("a nested list of no blocks", "77=0000", "DVT", "its record would own what never came"),
       nested("a list of more blocks than there are", "5=0300", "DVT", "the third would be read behind the buffer"),
       nested("a first block that is no head", "4=24", "DV", "only a head says how many blocks there are"),
       nested("a second head in the chain", "112=27", "DV", "a nested list that nobody owns, or a block of this one?"),

@@ -66,7 +66,7 @@ class Contents {
  public:
   std::uint64_t of(RecordView record) const {
     if (!is_grouped(record)) return hasher_.of_value_and_meta(record);
-    return hasher_.of_number(of(sub_list_of(record)) + record.type());
+    return hasher_.of_number(of(sub_list_of(record)) ^ record.type());
   }
 
  private:
@@ -79,7 +79,7 @@ class Contents {
       seen[hash >> 6 & 31] |= std::uint64_t{1} << (hash & 63);
     }
     std::uint64_t sum = 0;
-    for (std::uint64_t place = 0; const std::uint64_t bits : seen) sum += hasher_.of_number(bits ^ place++ << 58);
+    for (std::uint64_t place = 0; const std::uint64_t bits : seen) sum ^= hasher_.of_number(bits ^ place++ << 58);
     return sum;
   }
 

@@ -14,7 +14,7 @@ struct FourWords {
   static constexpr std::size_t kLeast = kWord;
   static constexpr std::size_t kMost = 4 * kWord;
 
-  static bool suit(std::size_t length) { return length - kLeast <= kMost - kLeast; }
+  static bool suit(std::size_t length) { return length >= kLeast && length <= kMost; }
 
   // For a length that they suit.
   explicit FourWords(std::size_t length) : inner(((length - 1) & 2 * kWord) / 2), last(length - kWord) {}
@@ -37,7 +37,7 @@ inline void copy_value(std::byte *to, const std::byte *from, std::size_t length)
     store(to + at.inner, word2);
     store(to + at.last - at.inner, word3);
     store(to + at.last, word4);
-  } else if (length - sizeof(Half) <= sizeof(Half)) {
+  } else if (length >= sizeof(Half) && length <= 2 * sizeof(Half)) {
     const auto first = load<Half>(from);
     const auto second = load<Half>(from + length - sizeof(Half));
     store(to, first);

@@ -20,7 +20,7 @@ bool FlatReader<Form, kRules>::next() {
     if (!check_header()) return false;
     if (!starts_list_) break;
     if (!enter_list()) return false;
-    if (levels_[depth_].blocks_left > 0) break;  // a list of no blocks has no bytes either
+    if (levels_[depth_].blocks_left > 0) break;
   }
   return check_fit() && check_records() && leave_block();
 }
@@ -35,10 +35,12 @@ bool FlatReader<Form, kRules>::check_header() {
 
 template <class Form, FlatRules kRules>
 bool FlatReader<Form, kRules>::enter_list() {
-  // The translation takes a block that is no head for a list of its own, and a head of no blocks for nothing at all.
+  // The translation takes a block that is no head for a list of its own, and a buffer whose head counts no blocks for one
+  // without any.
   const bool head = block_.has(kBlockHead);
   const std::uint16_t blocks = head ? block_.block_count() : 1;
-  if ((blocks == 0 || !head) && kRules != FlatRules::kWhole) return false;
+  if (!head && kRules != FlatRules::kWhole) return false;
+  if (blocks == 0 && (depth_ > 0 || kRules != FlatRules::kWhole)) return false;
   if (depth_ > AAA_ATTR_NESTING_MAX) return false;
   --levels_[depth_].lists_left;
   ++depth_;
@@ -110,8 +112,9 @@ typename FlatReader<Form, kRules>::Findings FlatReader<Form, kRules>::look_over(
       }
     }
     if (kChecksValues) {
-      const bool no_nul = (scan.behind()[-1] != std::byte{0}) | (record.length() == 0);
-      broken |= traits & static_cast<std::uint32_t>(no_nul);
+      const auto ends_otherwise = static_cast<std::uint32_t>(scan.behind()[-1] != std::byte{0});
+      const auto is_empty = static_cast<std::uint32_t>(record.length() == 0);
+      broken |= traits & (ends_otherwise | is_empty);
     }
   }
   static_assert(kEndsInNul == 1);
