@@ -69,7 +69,7 @@ class Reading {
       const std::size_t header = (flags & kLayout) == kForeign ? 16 : 24;
       if (number(at_, 2) != 0xABCD) return false;
       if (first && (head || !translation_)) blocks = number(at_ + 4, 2);  // else a list of one block
-      if (blocks == 0) return translation_ && depth == 0;  // there is nothing to translate
+      if (blocks == 0) return translation_ && depth == 0;                 // there is nothing to translate
       if (first) first_header = header;
       if (translation_ && header != first_header) return false;
       const std::size_t used = number(at_ + 10, 2);

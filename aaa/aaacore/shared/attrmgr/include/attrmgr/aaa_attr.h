@@ -53,7 +53,8 @@ AAA_API int is_aaa_attr_list_valid(aaa_attr_list_handle list, aaa_attr_cerrno *c
    AAA_ATTR_ERR_BAD_LIST: the list is not valid, or empty is null. AAA_ATTR_ERR_NO_MEMORY: no cursor. */
 AAA_API aaa_attr_cerrno is_aaa_attr_list_empty(aaa_attr_list_handle list, int *empty);
 
-/* The number of records in the list; removed ones count until the list is coalesced. 0 when the list is not valid. */
+/* The number of records in the list; removed ones count until the list is coalesced. 0 for a handle that names no list.
+   Later blocks are counted as they are: is_aaa_attr_list_valid looks at those. */
 AAA_API uint32_t aaa_attr_list_attr_count(aaa_attr_list_handle list);
 
 /* Stamps every attribute with the producer client type (1 to 23).
@@ -77,10 +78,14 @@ AAA_API void aaa_attr_discrim_init(uint8_t *discriminator);
    meta         copied with the attribute, or null for none
    client_type  the producer client type; its low 7 bits are stored as they are
 
+   Checked in this order:
    AAA_ATTR_ERR_NOT_FOUND: type above 622 (add_or_replace: also value null).
-   AAA_ATTR_ERR_BAD_ARG: value null, length 0 or unsuitable, or too long for a block of 65,535 bytes.
-   AAA_ATTR_ERR_NO_MEMORY: no block, or the list has 65,535 blocks. Codes of the handle. The list is unchanged on every
-   failure of adding. When a Grouped attribute has been added, the record owns the sub-list. */
+   AAA_ATTR_ERR_BAD_ARG: value null or length 0 (add_or_replace: the length only after the list).
+   Codes of the handle.
+   AAA_ATTR_ERR_BAD_ARG: length unsuitable, or too long for a block of 65,535 bytes; the value is the list itself.
+   AAA_ATTR_ERR_NO_MEMORY: no block, or the list has 65,535 blocks.
+   The list is unchanged on every failure of adding. When a Grouped attribute has been added, the record owns the
+   sub-list; whether the handle names a list is not looked at. */
 
 /* Appends an attribute. The unnumbered form gives no producer client type. */
 AAA_API aaa_attr_cerrno aaa_attr_add(aaa_attr_list_handle list, uint32_t type, const void *value, uint32_t length,
@@ -90,9 +95,11 @@ AAA_API aaa_attr_cerrno aaa_attr_add_v1(aaa_attr_list_handle list, uint32_t type
 
 /* Replaces the first attribute of the type, or appends if there is none. Same length and same meta (service, protocol,
    tag, mandatory): the value is overwritten in place, and the record keeps its producer client type. Otherwise the old
-   attribute is removed and the new one appended; should memory run out between the two, the list is left without
-   either. A sub-list that the old attribute held is freed, unless the new value is its very handle.
-   v1 appends, and leaves the old attribute, when the metas differ or only one of the two has meta.
+   attribute is removed and the new one appended; should that fail with AAA_ATTR_ERR_NO_MEMORY, for want of memory or at
+   65,535 blocks, the list is left without either. A sub-list that the old attribute held is freed, unless the new value
+   names that very list. Value and meta may lie in the list or in that sub-list.
+   v1 appends, and leaves the old attribute, when the metas differ or only one of the two has meta;
+   AAA_ATTR_ERR_BAD_ARG when both would then own one sub-list.
    v2 takes the producer client type; the unnumbered form is v2 with 0. */
 AAA_API aaa_attr_cerrno aaa_attr_add_or_replace(aaa_attr_list_handle list, uint32_t type, const void *value,
                                                 uint32_t length, const aaa_attr_meta *meta);
@@ -102,12 +109,13 @@ AAA_API aaa_attr_cerrno aaa_attr_add_or_replace_v2(aaa_attr_list_handle list, ui
                                                    uint32_t length, const aaa_attr_meta *meta, uint32_t client_type);
 
 /* Makes an empty sub-list and adds it to the parent as a Grouped attribute. *sub_list: the sub-list, owned by the
-   parent and filled by the caller; 0 on failure. Codes of aaa_attr_list_alloc and of adding. */
+   parent and filled by the caller; 0 on failure. A type of another format that takes 8 bytes stores the handle as mere
+   bytes: nothing then frees the sub-list but the caller. Codes of aaa_attr_list_alloc and of adding. */
 AAA_API aaa_attr_cerrno aaa_attr_add_group_list(aaa_attr_list_handle parent, aaa_attr_list_handle *sub_list,
                                                 uint32_t type, const aaa_attr_meta *meta);
 
-/* Adds sub_list to the parent as a Grouped attribute; from then on the parent owns it. On failure the caller keeps it.
-   Codes of adding. */
+/* Adds sub_list to the parent as a Grouped attribute; from then on the parent owns it. On failure the caller keeps it,
+   and with a type that is not Grouped, as above. Codes of adding. */
 AAA_API aaa_attr_cerrno aaa_attr_add_existing_group_list(aaa_attr_list_handle parent, aaa_attr_list_handle sub_list,
                                                          uint32_t type, const aaa_attr_meta *meta);
 
@@ -165,19 +173,23 @@ AAA_API aaa_attr_cerrno aaa_attr_list_remove_list(aaa_attr_list_handle list1, aa
    aaa_attr_remove_on_match. AAA_ATTR_ERR_NO_MEMORY: no cursor. */
 AAA_API aaa_attr_cerrno aaa_attr_list_remove_list_on_match(aaa_attr_list_handle list1, aaa_attr_list_handle list2);
 
-/* Removes from list1 every attribute whose type list2 holds, and with it the first one of that type from list2 if their
-   values are the same. Sub-lists are not freed. */
+/* Goes through list1 and removes every attribute of whose type list2 still holds one; with it goes the first such one
+   of list2, if their values are the same. Sub-lists are not freed. */
 AAA_API aaa_attr_cerrno aaa_attr_list_remove_common_attrs(aaa_attr_list_handle list1, aaa_attr_list_handle list2);
 
 /* ---- Combining ----
 
    Attributes of the source are added to the destination in the source's order, with their meta; a Grouped attribute
-   with a copy of its sub-list. The source is not changed. AAA_ATTR_ERR_BAD_ARG: a handle is 0, or both name the same
-   list. Codes of the source's handle, of adding to the destination and of copying sub-lists; what was added before a
-   failure stays. */
+   with a copy of its sub-list. The source is not changed, except by aaa_attr_list_merge_list and
+   aaa_attr_list_replace_and_add_v1. It must not be a sub-list of the destination, which could free it under way.
+   AAA_ATTR_ERR_BAD_ARG: a handle is 0, or both name the same list. Codes of the source's handle, of adding to the
+   destination (looked at when the first attribute is added) and of copying sub-lists; what was added before a failure
+   stays. A list decoded from a flat buffer may hold what adding refuses, a type above 622 for one: the call ends there.
+ */
 
 /* Makes a deep copy of the list, removed records included. *copy is the caller's to free, written on success only.
-   AAA_ATTR_ERR_NO_MEMORY. AAA_ATTR_ERR_BAD_LIST: a block of another layout version. Codes of the handles. */
+   AAA_ATTR_ERR_NO_MEMORY. AAA_ATTR_ERR_BAD_LIST: handle 0, or a block of another layout version, which a decoded list
+   may have. Codes of the handles. */
 AAA_API aaa_attr_cerrno aaa_attr_list_copy(aaa_attr_list_handle source, aaa_attr_list_handle *copy);
 
 /* Adds every attribute of the source, with its producer client type. */
@@ -196,7 +208,8 @@ AAA_API aaa_attr_cerrno aaa_attr_list_copy_by_type(aaa_attr_list_handle source, 
 AAA_API aaa_attr_cerrno aaa_attr_list_replace_and_add(aaa_attr_list_handle destination, aaa_attr_list_handle source);
 
 /* Removes from *list1 every attribute whose type *list2 holds, adds the rest to *list2 with its producer client types,
-   and exchanges the two handles: *list1 then names the whole, *list2 the rest. Codes as above. */
+   and exchanges the two handles: *list1 then names the whole, *list2 the rest; the caller owns both. A failure leaves
+   the handles as they were, and in the lists what was done so far. Codes as above. */
 AAA_API aaa_attr_cerrno aaa_attr_list_replace_and_add_v1(aaa_attr_list_handle *list1, aaa_attr_list_handle *list2);
 
 /* Adds the source's attributes without producer client type: "qos-policy-in" and "qos-policy-out" beside those that the
@@ -204,14 +217,15 @@ AAA_API aaa_attr_cerrno aaa_attr_list_replace_and_add_v1(aaa_attr_list_handle *l
 AAA_API aaa_attr_cerrno aaa_attr_list_merge_double_dip(aaa_attr_list_handle destination, aaa_attr_list_handle source);
 
 /* Moves the source's blocks to the end of the destination, without a copy. The source's handle is gone then.
-   AAA_ATTR_ERR_BAD_ARG: the same list. AAA_ATTR_ERR_NO_MEMORY: more than 65,535 blocks together. Codes of the handles.
- */
+   AAA_ATTR_ERR_BAD_LIST: a handle is 0. AAA_ATTR_ERR_BAD_ARG: the same list. AAA_ATTR_ERR_NO_MEMORY: more than 65,535
+   blocks together, both lists unchanged. Codes of the handles. */
 AAA_API aaa_attr_cerrno aaa_attr_list_merge_list(aaa_attr_list_handle destination, aaa_attr_list_handle source);
 
 /* Keeps the attributes of the given types and drops the others with their sub-lists. The list is rebuilt: *list becomes
    the handle of the new one, the old handle is gone. Only the low 8 bits of count are used.
-   AAA_ATTR_ERR_BAD_ARG: list null, or types null and a count not 0. AAA_ATTR_ERR_NO_MEMORY: *list stays and the
-   attributes are dropped, but the list is not rebuilt. Codes of the handle. */
+   AAA_ATTR_ERR_BAD_ARG: list null, or types null and a count not 0. AAA_ATTR_ERR_BAD_LIST: *list is 0. Codes of the
+   handle. AAA_ATTR_ERR_NO_MEMORY, and codes of adding for what a decoded list may hold: *list stays and the attributes
+   are dropped, but the list is not rebuilt. */
 AAA_API aaa_attr_cerrno aaa_attr_filter_on_type(aaa_attr_list_handle *list, const uint32_t *types, uint32_t count);
 
 /* 1 when each list holds, for every attribute of the other, one of the same type, value and meta, whatever the order

@@ -1,6 +1,7 @@
 /* aaa_attr_display.h: lists as text, for debugging. One numbered line an attribute; secrets are not shown, and LI
-   attributes only while the debug-LI flag is set (aaa_attr_dict.h). The text of
-   an attribute is cut at 255 characters, never overrun. */
+   attributes only while the debug-LI flag is set (aaa_attr_dict.h). The text of an attribute is cut at 255 characters,
+   never overrun. Showing an IPv6 prefix of a list clears the bits of its last byte beyond the prefix length, in the
+   list itself. */
 #ifndef ATTRMGR_AAA_ATTR_DISPLAY_H
 #define ATTRMGR_AAA_ATTR_DISPLAY_H
 

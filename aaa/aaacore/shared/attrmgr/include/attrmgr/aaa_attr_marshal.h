@@ -1,4 +1,4 @@
-/* aaa_attr_marshal.h: lists as bytes. A flat buffer (the list's blocks behind a marker byte, fast and readable in
+/* aaa_attr_marshal.h: lists as bytes. A flat buffer (the list's blocks after a marker byte, fast and readable in
    place), a TLV buffer (one type-length-value record an attribute), a gather list, and the byte order of flat buffers.
 
    docs/layout.md describes the bytes. Handles and addresses inside a buffer mean nothing to a receiver; no call follows
@@ -30,7 +30,8 @@ AAA_API aaa_attr_cerrno aaa_attr_list_buffer_coalesce_and_get_len(aaa_attr_list_
 /* Writes the list with all its sub-lists as a flat buffer. *size: in, the capacity of buffer; out, the bytes written.
    v1 first drops removed attributes from the list (sub-lists are written as they stand).
    AAA_ATTR_ERR_BAD_FORMAT: buffer null or too small, *size is the size needed and nothing is written; or the list
-   cannot be measured, *size is 0. v1 only: codes of the handle, *size as it was. */
+   cannot be measured, *size is 0. AAA_ATTR_ERR_BAD_ARG: size null. v1 only: codes of the handle, *size as it was;
+   removed attributes are dropped even where it then fails. */
 AAA_API aaa_attr_cerrno aaa_attr_list_to_buffer(aaa_attr_list_handle list, void *buffer, uint32_t *size);
 AAA_API aaa_attr_cerrno aaa_attr_list_to_buffer_v1(aaa_attr_list_handle list, void *buffer, uint32_t *size);
 
@@ -48,7 +49,7 @@ AAA_API aaa_attr_cerrno aaa_attr_list_tlv_to_buffer(aaa_attr_list_handle list, v
 
 /* ---- Reading buffers ---- */
 
-/* Builds a list from a flat or TLV buffer of length bytes, by its marker; the caller frees it. Bytes behind the outer
+/* Builds a list from a flat or TLV buffer of length bytes, by its marker; the caller frees it. Bytes after the outer
    list are ignored. A refused buffer leaves nothing behind.
    AAA_ATTR_ERR_BAD_ARG: null, length 0 (*list as it was), or an unknown marker.
    AAA_ATTR_ERR_NO_MEMORY: an allocation failed (*list as it was when it was the first).
@@ -97,8 +98,10 @@ typedef enum cdm_endian_tran_type
 
 /* Translates a flat buffer in place. Ulong and Enum values are translated; other values, the handles of sub-lists among
    them, travel as they are. A refused buffer is unchanged. v1 is told the buffer's length.
+   A buffer whose first block counts no blocks is left as it is, with 0.
    AAA_ATTR_ERR_BAD_ARG: null, an unknown direction, or not marked as a flat buffer (v1: length 0).
-   AAA_ATTR_ERR_BAD_BUFFER: the buffer does not hold together in the form that it should be in (v1: within length). */
+   AAA_ATTR_ERR_BAD_BUFFER: the buffer does not hold together in the form that it should be in (v1: within length), or
+   the blocks of a list differ in their layout. */
 AAA_API aaa_attr_cerrno aaa_attrs_buffer_tran(char *buffer, cdm_endian_tran_type direction);
 AAA_API aaa_attr_cerrno aaa_attrs_buffer_tran_v1(char *buffer, uint32_t length, cdm_endian_tran_type direction);
 

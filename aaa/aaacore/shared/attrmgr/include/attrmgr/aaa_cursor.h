@@ -7,9 +7,10 @@
          ...;                               // read the current attribute
      aaa_cursor_free(cursor);               // also after a failed allocation
 
-   A cursor visits the live records in list order. It "has a current attribute" from the first aaa_cursor_get_next on.
-   It must not outlive its list (its buffer) nor the cursor pool. Attributes added meanwhile to the block in which the
-   cursor stands are not visited. */
+   A cursor visits the live records in list order. It "has a current attribute" from the first record that it steps on:
+   over a list without records it never has one, and at the end the last record stays the current one, removed or not.
+   It must not outlive its list (its buffer) nor the cursor pool; a list that is spliced into another is gone.
+   Attributes added meanwhile to the block in which the cursor stands are not visited. */
 #ifndef ATTRMGR_AAA_CURSOR_H
 #define ATTRMGR_AAA_CURSOR_H
 
@@ -67,13 +68,14 @@ AAA_API uint32_t aaa_cursor_get_next(aaa_cursor *cursor);
 /* Goes to the next attribute of the type: 1, or 0 with the cursor at the end. Type 0 goes to the end and gives 1. */
 AAA_API int aaa_cursor_move_by_type(aaa_cursor *cursor, uint32_t type);
 
-/* Back before the first attribute of the list, the filter kept. A buffer cursor cannot be reset.
-   AAA_ATTR_ERR_BAD_ARG: null. Codes of the handle. */
+/* Back before the first attribute of the list, the filter kept.
+   AAA_ATTR_ERR_BAD_ARG: null. AAA_ATTR_ERR_BAD_LIST: a buffer cursor, which cannot be reset. Codes of the handle. */
 AAA_API aaa_attr_cerrno aaa_cursor_reset(aaa_cursor *cursor);
 
 /* ---- Changing ---- */
 
-/* Removes the current attribute, if there is one. A sub-list that it holds is not freed. */
+/* Removes the current attribute, if there is one. A sub-list that it holds is not freed. A Grouped attribute of a
+   buffer stays: its nested list would become part of the outer one. */
 AAA_API void aaa_cursor_remove(aaa_cursor *cursor);
 
 /* Stamps the current attribute. AAA_ATTR_ERR_BAD_ARG: none, or client_type not 1 to 23. */
@@ -116,7 +118,7 @@ AAA_API const char *aaa_cursor_get_name(const aaa_cursor *cursor);
 AAA_API int aaa_cursor_grouped(const aaa_cursor *cursor);
 AAA_API int aaa_cursor_attr_is_class(const aaa_cursor *cursor, uint32_t mask);
 
-/* Buffer cursors only: the offset in the buffer of the byte behind the current record's 8-byte header. */
+/* Buffer cursors only: the offset in the buffer of the byte after the current record's 8-byte header. */
 AAA_API aaa_attr_cerrno aaa_cursor_get_offset_in_buffer(const aaa_cursor *cursor, uint32_t *offset);
 
 /* The current record, unchecked: before the first aaa_cursor_get_next the place where the first record would be. */

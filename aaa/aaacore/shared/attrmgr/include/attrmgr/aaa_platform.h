@@ -18,7 +18,8 @@ AAA_BEGIN_DECLS
 /* ---- Handle table: turns list handles into the address of a list's first block ----
 
    In the library's own table the handle is that address: nothing is stored, every non-zero handle is taken as valid,
-   and a freed list's handle cannot be told from a live one. */
+   and a freed list's handle cannot be told from a live one. While it is in use, the library follows the handles of
+   lists without calling id_to_ptr. */
 
 /* Creates the table, called once by aaa_attr_client_register with 256, 4096 and "AAA Attribute List handle IDs".
    initial and maximum are sizing hints that the library's own table does not need. Returns the table's number, passed
@@ -76,7 +77,8 @@ AAA_API void aaa_base_destroy_chunk_cursor(void);
 AAA_API void *malloc_pc(size_t size, const void *owner);
 
 /* The owner recorded for an allocation of size bytes that the library's own malloc_pc made (a list's first block has
-   aaa_attr_chunk_size bytes). */
+   aaa_attr_chunk_size bytes). For debuggers and leak reports: the library itself does not call it, and it means nothing
+   where a process brings a malloc_pc of its own. */
 AAA_API const void *malloc_pc_owner(const void *allocation, size_t size);
 
 /* Writes the text form of a 16-byte IPv6 address (RFC 5952) into text, at least AAA_IPV6_TEXT_SIZE bytes with the
