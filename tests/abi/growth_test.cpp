@@ -97,8 +97,6 @@ const std::tuple<const char *, aaa_attr_cerrno (*)(const Source &, List &)> kApp
      [](const Source &source, List &to) { return aaa_attr_list_append_list(to, source.list); }},
     {"aaa_attr_list_replace_and_add",
      [](const Source &source, List &to) { return aaa_attr_list_replace_and_add(to, source.list); }},
-    {"aaa_attr_list_merge_double_dip",
-     [](const Source &source, List &to) { return aaa_attr_list_merge_double_dip(to, source.list); }},
     {"aaa_attr_list_copy_by_type",
      [](const Source &source, List &to) { return aaa_attr_list_copy_by_type(source.list, to, type::kBinary); }},
     {"aaa_attr_buffer_to_list", [](const Source &source, List &to) { return decode(source.tlv, &to); }},

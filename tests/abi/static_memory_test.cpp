@@ -173,6 +173,7 @@ TEST(OutOfMemory, EqualityDoesWithout) {
     List(reversed.group(type::kGrouped)).number(type::kUlong, 2999 - i).release();
     List(other.group(type::kGrouped)).number(type::kUlong, 3000 - i).release();
   }
+  stays = false;
   countdown = 1;
   EXPECT_EQ(aaa_attr_list_eq(list, reversed), 1);
   EXPECT_EQ(aaa_attr_list_eq(list, other), 0);

@@ -166,7 +166,7 @@ TEST(BufferCursor, RemovesWhatNestsNoList) {
 
 // The block after one that ends in its own header would be that block again.
 TEST(BufferCursor, EndsAtABlockThatEndsInItsHeader) {
-  for (const char *used : {"11=0000", "11=1700"})
+  for (const char *used : {"11=0000", "11=0000 7=0000", "11=1700 7=0000"})
     for (const char *flags : {"4=21", "4=25"}) {
       const Bytes buffer = patched(patched(hex(golden::kNested), used), flags);
       EXPECT_EQ(visited(buffer), "") << used << ' ' << flags;
