@@ -13,10 +13,10 @@ namespace {
 // The addresses of a loaded object.
 struct Range {
   std::atomic<std::uintptr_t> begin{0};
-  std::atomic<std::uintptr_t> end{0};
+  std::atomic<std::uintptr_t> size{0};
 
   bool contains(std::uintptr_t address) const {
-    return address >= begin.load(std::memory_order_relaxed) && address < end.load(std::memory_order_relaxed);
+    return address - begin.load(std::memory_order_relaxed) < size.load(std::memory_order_relaxed);
   }
 };
 
@@ -45,7 +45,7 @@ int look_at_object(dl_phdr_info *object, std::size_t, void *context) {
   }
   if (!inside) return 0;
   range->begin.store(begin, std::memory_order_relaxed);
-  range->end.store(end, std::memory_order_relaxed);
+  range->size.store(end - begin, std::memory_order_relaxed);
   return 1;
 }
 
@@ -54,11 +54,9 @@ void find_range(const void *address_in_it, Range *range) {
   dl_iterate_phdr(look_at_object, &search);
 }
 
-bool is_caller(std::uintptr_t address) { return !library.contains(address) && !checked.contains(address); }
-
 _Unwind_Reason_Code look_at_frame(_Unwind_Context *context, void *caller) {
   const std::uintptr_t address = _Unwind_GetIP(context);
-  if (!is_caller(address)) return _URC_NO_REASON;
+  if (library.contains(address) || checked.contains(address)) return _URC_NO_REASON;
   *static_cast<const void **>(caller) = reinterpret_cast<const void *>(address);
   return _URC_END_OF_STACK;
 }
@@ -74,7 +72,7 @@ constexpr std::uintptr_t kFrameSizeMax = 1 << 20;
 
 [[gnu::no_sanitize("address"), gnu::no_sanitize("thread")]] const void *follow(const Frame *frame) {
   for (int i = 0; i < kFramesMax; ++i) {
-    if (is_caller(number(frame->return_address))) return frame->return_address;
+    if (!library.contains(number(frame->return_address))) return frame->return_address;
     const std::uintptr_t distance = number(frame->outer) - number(frame);
     if (distance == 0 || distance > kFrameSizeMax || distance % alignof(Frame) != 0) return nullptr;
     frame = frame->outer;
@@ -95,7 +93,7 @@ void find_library() {
 
 void find_library(const void *address_in_it) { find_range(address_in_it, &library); }
 
-bool library_found() { return library.end.load(std::memory_order_relaxed) != 0; }
+bool library_found() { return library.size.load(std::memory_order_relaxed) != 0; }
 
 bool in_library(const void *address) { return library.contains(number(address)); }
 

@@ -3,8 +3,6 @@
 #include <pthread.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <cstring>
 #include <mutex>
 #include <new>
 
@@ -26,14 +24,14 @@ class Queue {
     if (size_++ == 0) {
       first_ = slot;
     } else {
-      slot_at(last_)->next_free = slot;
+      slot_at(last_).next_free = slot;
     }
     last_ = slot;
   }
 
   std::uint32_t pop() {
     const std::uint32_t slot = first_;
-    first_ = slot_at(slot)->next_free;
+    first_ = slot_at(slot).next_free;
     --size_;
     return slot;
   }
@@ -79,11 +77,9 @@ void register_thread() {
 bool add_chunk() {
   if (num_chunks == kChunksMax) return false;
   // From the heap, where leak checkers look for the addresses of what is in use.
-  void *memory = std::aligned_alloc(kCacheLine, sizeof(Slot) * kSlotsPerChunk);
-  if (memory == nullptr) return false;
-  Slot *slots = static_cast<Slot *>(memory);
-  for (std::uint32_t i = 0; i < kSlotsPerChunk; ++i) new (slots + i) Slot{};
-  attrmgr_checked_slots.chunks[num_chunks].store(slots, std::memory_order_release);
+  auto *chunk = new (std::nothrow) Chunk{};
+  if (chunk == nullptr) return false;
+  attrmgr_checked_slots.chunks[num_chunks].store(chunk, std::memory_order_release);
   for (std::uint32_t i = 0; i < kSlotsPerChunk; ++i) shared.push(num_chunks * kSlotsPerChunk + i);
   ++num_chunks;
   return true;

@@ -24,19 +24,21 @@ constexpr std::uint32_t kStatusStale = 2;
 constexpr std::size_t kBlockSize = 512;
 alignas(std::max_align_t) constinit char no_list[kBlockSize] = {};
 
-[[gnu::cold, gnu::noinline]] void tell(std::uint64_t handle, const Found &found) {
-  const bool stale = found.verdict == Verdict::kWithdrawn;
-  const Misuse misuse{found.verdict, caller_by_unwinding(), stale ? withdrawer(*found.slot, handle) : nullptr, handle,
-                      1};
+// Takes down the use of a handle that names no list.
+Verdict tell(std::uint64_t handle) {
+  const Verdict verdict = verdict_on(handle);
+  const void *withdrawn_by = verdict == Verdict::kWithdrawn ? withdrawer(handle) : nullptr;
+  const Misuse misuse{verdict, caller_by_unwinding(), withdrawn_by, handle, 1};
   note_misuse(misuse);
-  if (!options().abort) return;
-  write_misuse(misuse);
-  std::abort();
+  if (options().abort) {
+    write_misuse(misuse);
+    std::abort();
+  }
+  return verdict;
 }
 
-[[gnu::cold, gnu::noinline]] void *refuse(std::uint64_t handle, const Found &found, std::uint32_t *status) {
-  tell(handle, found);
-  const bool stale = found.verdict == Verdict::kWithdrawn;
+[[gnu::cold, gnu::noinline]] void *refuse(std::uint64_t handle, std::uint32_t *status) {
+  const bool stale = tell(handle) == Verdict::kWithdrawn;
   if (status != nullptr) *status = stale ? kStatusStale : kStatusBad;
   return stale || status == nullptr ? nullptr : no_list;
 }
@@ -46,19 +48,17 @@ alignas(std::max_align_t) constinit char no_list[kBlockSize] = {};
 std::uint16_t id_create_new_table(std::uint32_t, std::uint32_t, const char *) { return kTable; }
 
 std::uint64_t id_get(void *first_block, std::uint16_t) {
-  if (!library_found()) find_library(__builtin_return_address(0));
-  report_if_asked();
+  if (attention.load(std::memory_order_relaxed)) attend(__builtin_return_address(0));
   return first_block != nullptr ? issue(first_block) : 0;
 }
 
 void *id_to_ptr(std::uint64_t handle, std::uint32_t *status, std::uint16_t) {
-  const Found found = find(handle);
-  if (found.verdict != Verdict::kLive) return refuse(handle, found, status);
+  void *block = live_block(handle);
+  if (block == nullptr) return refuse(handle, status);
   if (status != nullptr) *status = kStatusValid;
-  return found.block;
+  return block;
 }
 
 void id_delete(std::uint64_t handle, std::uint16_t) {
-  const Found found = withdraw(handle, caller_by_frames(__builtin_frame_address(0)));
-  if (found.verdict != Verdict::kLive) tell(handle, found);
+  if (!withdraw(handle, caller_by_frames(__builtin_frame_address(0)))) tell(handle);
 }

@@ -22,7 +22,10 @@ namespace {
 std::atomic<bool> report_asked{false};
 static_assert(std::atomic<bool>::is_always_lock_free);
 
-void ask_for_report(int) { report_asked.store(true, std::memory_order_relaxed); }
+void ask_for_report(int) {
+  report_asked.store(true, std::memory_order_relaxed);
+  attention.store(true, std::memory_order_relaxed);
+}
 
 void before_fork() {
   lock_free_slots();
@@ -58,8 +61,11 @@ void at_exit(int status, void *) {
 
 }  // namespace
 
-void report_if_asked() {
-  if (!report_asked.load(std::memory_order_relaxed)) return;
+std::atomic<bool> attention{true};
+
+void attend(const void *library_code) {
+  attention.store(false, std::memory_order_relaxed);
+  if (!library_found()) find_library(library_code);
   if (report_asked.exchange(false, std::memory_order_relaxed)) write_report(When::kOnDemand);
 }
 

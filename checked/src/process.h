@@ -2,9 +2,15 @@
 // a report.
 #pragma once
 
+#include <atomic>
+
 namespace attrmgr::checked {
 
-// Writes the report that a signal has asked for since the last call. A signal handler itself could not.
-void report_if_asked();
+// Set when there is something to be done before the next handle is issued: at the start, and when a report was asked
+// for by a signal, whose handler could not write it.
+extern std::atomic<bool> attention;
+
+// Does it. library_code: an address in the library.
+void attend(const void *library_code);
 
 }  // namespace attrmgr::checked

@@ -15,20 +15,28 @@ namespace attrmgr::checked {
 
 inline constexpr std::uint32_t kSlotsPerChunk = 1024;
 inline constexpr std::uint32_t kChunksMax = 16384;
+inline constexpr std::uint32_t kSlotsMax = kSlotsPerChunk * kChunksMax;
 inline constexpr std::uint32_t kGenerationMax = 0xFFFFFFFF;
 inline constexpr unsigned kGenerationShift = 32;
 inline constexpr std::uint32_t kWithdrawalsKept = 5;
-inline constexpr std::size_t kCacheLine = 64;
 
-// A cache line of its own: lists of different threads do not slow each other down.
-struct alignas(kCacheLine) Slot {
-  std::atomic<void *> block;                                 // the list's first block; null while there is no list
-  std::atomic<std::uint32_t> generation;                     // of the last handle issued; 0 for none
-  std::uint32_t next_free;                                   // for the queue that a free slot stands in
-  std::atomic<std::uint32_t> process;                        // in which process the list was made, see inherited()
-  std::atomic<const void *> withdrawn_by[kWithdrawalsKept];  // the calls that ended the last lists here, by generation
+struct Slot {
+  std::atomic<void *> block;              // the list's first block; null while there is no list
+  std::atomic<std::uint32_t> generation;  // of the last handle issued; 0 for none
+  std::uint32_t next_free;                // for the queue that a free slot stands in
 };
-static_assert(sizeof(Slot) == kCacheLine);
+
+// What is written down for the report. Apart from the slots, which every look-up reads: so more of them fit the nearest
+// cache.
+struct History {
+  std::atomic<const void *> withdrawn_by[kWithdrawalsKept];  // the calls that ended the last lists here, by generation
+  std::atomic<std::uint32_t> process;                        // in which process the list was made, see inherit()
+};
+
+struct Chunk {
+  Slot slots[kSlotsPerChunk];
+  History histories[kSlotsPerChunk];
+};
 
 // A debugger reads the table of a core file by what the first fields say.
 struct SlotTable {
@@ -38,53 +46,55 @@ struct SlotTable {
   std::uint32_t generation_at;
   std::uint32_t slots_per_chunk;
   std::uint32_t chunks_max;
-  std::atomic<Slot *> chunks[kChunksMax];  // null: not needed so far
+  std::atomic<Chunk *> chunks[kChunksMax];  // each begins with its slots; null: not needed so far
 };
 
 // Exported under the name attrmgr_checked_table.
 extern "C" [[gnu::visibility("hidden")]] SlotTable attrmgr_checked_slots;
 
-enum class Verdict { kLive, kWithdrawn, kNeverIssued };
-
-struct Found {
-  Slot *slot;   // null when never issued
-  void *block;  // null unless live
-  Verdict verdict;
-};
+enum class Verdict { kWithdrawn, kNeverIssued };
 
 inline std::uint32_t slot_of(std::uint64_t handle) { return static_cast<std::uint32_t>(handle); }
 inline std::uint32_t generation_of(std::uint64_t handle) {
   return static_cast<std::uint32_t>(handle >> kGenerationShift);
 }
 
-// Null for a slot that was never needed.
-inline Slot *slot_at(std::uint32_t number) {
-  const std::uint32_t chunk = number / kSlotsPerChunk;
-  if (chunk >= kChunksMax) return nullptr;
-  Slot *slots = attrmgr_checked_slots.chunks[chunk].load(std::memory_order_acquire);
-  return slots != nullptr ? slots + number % kSlotsPerChunk : nullptr;
+// Null where no slot has been needed so far.
+inline Chunk *chunk_of(std::uint32_t slot) {
+  return attrmgr_checked_slots.chunks[slot / kSlotsPerChunk].load(std::memory_order_acquire);
 }
 
-inline Found find(std::uint64_t handle) {
-  Slot *slot = slot_at(slot_of(handle));
-  if (slot == nullptr) return {nullptr, nullptr, Verdict::kNeverIssued};
+// The slot of a number that may be any; null when there is none.
+inline const Slot *find_slot(std::uint32_t number) {
+  if (number >= kSlotsMax) return nullptr;
+  const Chunk *chunk = chunk_of(number);
+  return chunk != nullptr ? chunk->slots + number % kSlotsPerChunk : nullptr;
+}
+
+// Of a slot that there is.
+inline Slot &slot_at(std::uint32_t number) { return chunk_of(number)->slots[number % kSlotsPerChunk]; }
+inline History &history_at(std::uint32_t number) { return chunk_of(number)->histories[number % kSlotsPerChunk]; }
+
+// The first block of the handle's list; null when the handle names none.
+inline void *live_block(std::uint64_t handle) {
+  const Slot *slot = find_slot(slot_of(handle));
+  if (slot == nullptr) return nullptr;
   // Block before generation: a list that came into the slot meanwhile brought its generation along first.
   void *block = slot->block.load(std::memory_order_acquire);
-  const std::uint32_t last = slot->generation.load(std::memory_order_relaxed);
-  const std::uint32_t generation = generation_of(handle);
-  if (generation == last && block != nullptr) return {slot, block, Verdict::kLive};
-  const bool issued = generation != 0 && generation <= last;
-  return {issued ? slot : nullptr, nullptr, issued ? Verdict::kWithdrawn : Verdict::kNeverIssued};
+  return slot->generation.load(std::memory_order_relaxed) == generation_of(handle) ? block : nullptr;
 }
+
+// What is to be said of a handle that names no list.
+Verdict verdict_on(std::uint64_t handle);
 
 // Issues a handle for the block; 0 when there are no slots left or no memory for more.
 std::uint64_t issue(void *block);
 
-// Withdraws a handle on behalf of the code at `by`; its verdict before that.
-Found withdraw(std::uint64_t handle, const void *by);
+// Withdraws a handle on behalf of the code at `by`. False when it names no list.
+[[nodiscard]] bool withdraw(std::uint64_t handle, const void *by);
 
-// The code that withdrew the handle; null when it is not known any more.
-const void *withdrawer(const Slot &slot, std::uint64_t handle);
+// The code that withdrew a withdrawn handle; null when it is not known any more.
+const void *withdrawer(std::uint64_t handle);
 
 // A forked process has copies of its parent's lists, which are not its own to answer for: inherit() tells them from
 // those that the process makes itself from then on.
@@ -94,16 +104,13 @@ std::uint32_t current_process();
 // Calls visit(handle, block) for every list of this process that has not ended.
 template <class Visit>
 void for_each_live(Visit visit) {
-  for (std::uint32_t chunk = 0; chunk < kChunksMax; ++chunk) {
-    if (attrmgr_checked_slots.chunks[chunk].load(std::memory_order_acquire) == nullptr) continue;
-    for (std::uint32_t i = 0; i < kSlotsPerChunk; ++i) {
-      const std::uint32_t number = chunk * kSlotsPerChunk + i;
-      const Slot &slot = *slot_at(number);
-      void *block = slot.block.load(std::memory_order_acquire);
-      if (block == nullptr || slot.process.load(std::memory_order_relaxed) != current_process()) continue;
-      const std::uint64_t generation = slot.generation.load(std::memory_order_relaxed);
-      visit(generation << kGenerationShift | number, block);
-    }
+  for (std::uint32_t number = 0; number < kSlotsMax; ++number) {
+    const Slot *slot = find_slot(number);
+    if (slot == nullptr) break;  // chunks are added in order
+    void *block = slot->block.load(std::memory_order_acquire);
+    if (block == nullptr || history_at(number).process.load(std::memory_order_relaxed) != current_process()) continue;
+    const std::uint64_t generation = slot->generation.load(std::memory_order_relaxed);
+    visit(generation << kGenerationShift | number, block);
   }
 }
 
