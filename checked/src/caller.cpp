@@ -4,8 +4,8 @@
 #include <link.h>
 #include <unwind.h>
 
+#include <algorithm>
 #include <atomic>
-#include <initializer_list>
 
 namespace attrmgr::checked {
 namespace {
@@ -54,11 +54,26 @@ void find_range(const void *address_in_it, Range *range) {
   dl_iterate_phdr(look_at_object, &search);
 }
 
-_Unwind_Reason_Code look_at_frame(_Unwind_Context *context, void *caller) {
+struct Calls {
+  const void **found;
+  std::size_t max;
+  std::size_t count;
+};
+
+_Unwind_Reason_Code look_at_frame(_Unwind_Context *context, void *argument) {
+  auto &calls = *static_cast<Calls *>(argument);
   const std::uintptr_t address = _Unwind_GetIP(context);
-  if (library.contains(address) || checked.contains(address)) return _URC_NO_REASON;
-  *static_cast<const void **>(caller) = reinterpret_cast<const void *>(address);
-  return _URC_END_OF_STACK;
+  if (address == 0) return _URC_END_OF_STACK;
+  const bool inside = library.contains(address) || checked.contains(address);
+  if (inside && calls.count == 0) return _URC_NO_REASON;
+  calls.found[calls.count++] = reinterpret_cast<const void *>(address);
+  return calls.count < calls.max ? _URC_NO_REASON : _URC_END_OF_STACK;
+}
+
+const void *caller_by_unwinding() {
+  const void *caller;
+  find_calls(&caller, 1);
+  return caller;
 }
 
 // A frame pointer points at the one of the frame around, and that is followed by the return address.
@@ -97,10 +112,10 @@ bool library_found() { return library.size.load(std::memory_order_relaxed) != 0;
 
 bool in_library(const void *address) { return library.contains(number(address)); }
 
-const void *caller_by_unwinding() {
-  const void *caller = nullptr;
-  _Unwind_Backtrace(look_at_frame, &caller);
-  return caller;
+void find_calls(const void **calls, std::size_t max) {
+  std::fill(calls, calls + max, nullptr);
+  Calls wanted{calls, max, 0};
+  if (max > 0) _Unwind_Backtrace(look_at_frame, &wanted);
 }
 
 const void *caller_by_frames(const void *frame) {

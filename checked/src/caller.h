@@ -1,6 +1,7 @@
 // Which code called the library: the first return address on the stack that lies neither in it nor here.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 namespace attrmgr::checked {
@@ -11,8 +12,9 @@ void find_library(const void *address_in_it);
 bool library_found();
 bool in_library(const void *address);
 
-// By unwinding, which takes a microsecond or so; null when it leads nowhere.
-const void *caller_by_unwinding();
+// The calls that led here from outside the library, innermost first: the addresses that they return to. Fills at most
+// max of them and null for the rest. By unwinding, which takes a microsecond or so.
+void find_calls(const void **calls, std::size_t max);
 
 // By the frame pointers that the library is compiled with, in nanoseconds; frame is the frame of the function that the
 // library called. Null where the library turns out to have none.

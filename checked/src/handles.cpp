@@ -2,6 +2,7 @@
 #include <attrmgr/aaa_platform.h>
 
 #include <cstdlib>
+#include <new>
 
 #include "caller.h"
 #include "misuse.h"
@@ -24,11 +25,27 @@ constexpr std::uint32_t kStatusStale = 2;
 constexpr std::size_t kBlockSize = 512;
 alignas(std::max_align_t) constinit char no_list[kBlockSize] = {};
 
+// Notes which calls have led to a list. Where there is no memory for it, the report has less to tell.
+[[gnu::cold, gnu::noinline]] void note_calls(std::uint64_t handle) {
+  History &history = history_at(slot_of(handle));
+  CallStack *stack = history.made_by.load(std::memory_order_relaxed);
+  if (stack == nullptr) stack = new (std::nothrow) CallStack{};
+  if (stack == nullptr) return;
+  const void *calls[kCallsMax] = {};
+  find_calls(calls, options().stack);
+  for (std::size_t i = 0; i < kCallsMax; ++i) stack->calls[i].store(calls[i], std::memory_order_relaxed);
+  history.made_by.store(stack, std::memory_order_release);
+}
+
 // Takes down the use of a handle that names no list.
 Verdict tell(std::uint64_t handle) {
   const Verdict verdict = verdict_on(handle);
-  const void *withdrawn_by = verdict == Verdict::kWithdrawn ? withdrawer(handle) : nullptr;
-  const Misuse misuse{verdict, caller_by_unwinding(), withdrawn_by, handle, 1};
+  Misuse misuse{};
+  misuse.verdict = verdict;
+  misuse.withdrawn_by = verdict == Verdict::kWithdrawn ? withdrawer(handle) : nullptr;
+  misuse.handle = handle;
+  misuse.uses = 1;
+  find_calls(misuse.calls, options().stack);
   note_misuse(misuse);
   if (options().abort) {
     write_misuse(misuse);
@@ -49,7 +66,9 @@ std::uint16_t id_create_new_table(std::uint32_t, std::uint32_t, const char *) { 
 
 std::uint64_t id_get(void *first_block, std::uint16_t) {
   if (attention.load(std::memory_order_relaxed)) attend(__builtin_return_address(0));
-  return first_block != nullptr ? issue(first_block) : 0;
+  const std::uint64_t handle = first_block != nullptr ? issue(first_block) : 0;
+  if (stacks_wanted && handle != 0) note_calls(handle);
+  return handle;
 }
 
 void *id_to_ptr(std::uint64_t handle, std::uint32_t *status, std::uint16_t) {

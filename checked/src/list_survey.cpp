@@ -114,13 +114,22 @@ const void *owner_of(const void *head) {
   return read_memory(reinterpret_cast<std::uint64_t>(head) + kHeadSize, &owner, sizeof owner) ? owner : nullptr;
 }
 
+std::vector<const void *> calls_of(std::uint64_t handle, const void *head) {
+  std::vector<const void *> calls;
+  if (const CallStack *stack = history_at(slot_of(handle)).made_by.load(std::memory_order_acquire))
+    for (const std::atomic<const void *> &call : stack->calls)
+      if (const void *address = call.load(std::memory_order_relaxed)) calls.push_back(address);
+  if (calls.empty()) calls.push_back(owner_of(head));
+  return calls;
+}
+
 }  // namespace
 
 std::vector<SurveyedList> survey_lists() {
   std::vector<SurveyedList> lists;
   std::unordered_set<std::uint64_t> sub_lists;
   for_each_live([&](std::uint64_t handle, const void *head) {
-    lists.push_back({handle, owner_of(head), 0, {}, false, false});
+    lists.push_back({handle, calls_of(handle, head), 0, {}, false, false});
     Survey(&lists.back(), &sub_lists).read(reinterpret_cast<std::uint64_t>(head));
   });
   for (SurveyedList &list : lists) list.sub_list = sub_lists.contains(list.handle);

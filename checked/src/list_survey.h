@@ -10,11 +10,11 @@ namespace attrmgr::checked {
 
 struct SurveyedList {
   std::uint64_t handle;
-  const void *owner;         // the code that made the list; null when that is not known
-  std::uint64_t attributes;  // removed ones left out
-  std::string names;         // of the first attributes, secrets left out
-  bool damaged;              // what follows could not be read
-  bool sub_list;             // another list owns it
+  std::vector<const void *> calls;  // the call that made the list, and what called that, as far as is known
+  std::uint64_t attributes;         // removed ones left out
+  std::string names;                // of the first attributes, secrets left out
+  bool damaged;                     // what follows could not be read
+  bool sub_list;                    // another list owns it
 };
 
 // Every list of the process.

@@ -14,7 +14,7 @@ std::size_t num_kept = 0;
 std::uint64_t others = 0;
 
 bool same_place(const Misuse &a, const Misuse &b) {
-  return a.verdict == b.verdict && a.caller == b.caller && a.withdrawn_by == b.withdrawn_by;
+  return a.verdict == b.verdict && a.calls[0] == b.calls[0] && a.withdrawn_by == b.withdrawn_by;
 }
 
 }  // namespace

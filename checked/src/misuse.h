@@ -9,10 +9,10 @@
 namespace attrmgr::checked {
 
 struct Misuse {
-  Verdict verdict;           // kWithdrawn or kNeverIssued
-  const void *caller;        // where the handle was used
-  const void *withdrawn_by;  // where its list ended; null when it is not known, or there was none
-  std::uint64_t handle;      // of the first use
+  Verdict verdict;               // kWithdrawn or kNeverIssued
+  const void *calls[kCallsMax];  // where the handle was first used, and what called that
+  const void *withdrawn_by;      // where its list ended; null when it is not known, or there was none
+  std::uint64_t handle;          // of the first use
   std::uint64_t uses;
 };
 

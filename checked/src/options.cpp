@@ -6,6 +6,8 @@
 #include <cstdlib>
 #include <string_view>
 
+#include "slot_table.h"
+
 namespace attrmgr::checked {
 namespace {
 
@@ -25,6 +27,13 @@ bool read_switch(std::string_view text, bool *on) {
   return text == "1" || text == "0";
 }
 
+bool read_depth(std::string_view text, std::size_t *depth) {
+  int number = 0;
+  if (!read_number(text, kCallsMax, &number) || number == 0) return false;
+  *depth = static_cast<std::size_t>(number);
+  return true;
+}
+
 bool read_option(std::string_view name, std::string_view value, Options *options) {
   if (name == "report") options->report = value;
   if (name == "report") return !value.empty();
@@ -32,6 +41,7 @@ bool read_option(std::string_view name, std::string_view value, Options *options
   if (name == "leaks") return read_switch(value, &options->leaks);
   if (name == "lines") return read_switch(value, &options->lines);
   if (name == "exitcode") return read_number(value, kExitStatusMax, &options->exit_status);
+  if (name == "stack") return read_depth(value, &options->stack);
   if (name == "signal") return read_number(value, SIGRTMAX, &options->signal);
   return false;
 }
@@ -49,7 +59,7 @@ Options read_options() {
     if (!read && !option.empty())
       std::fprintf(stderr,
                    "attrmgr_checked: %s: '%.*s' is no option; there are report=FILE, abort=1, leaks=0, lines=0, "
-                   "exitcode=N, signal=N\n",
+                   "exitcode=N, stack=N, signal=N\n",
                    kVariable, static_cast<int>(option.size()), option.data());
   }
   return options;

@@ -8,6 +8,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <climits>
 #include <cstdint>
@@ -75,40 +76,49 @@ std::string file_of(const link_map &object) {
 
 std::string_view base_name(std::string_view path) { return path.substr(path.rfind('/') + 1); }
 
-// "server.c:120 in handle_request"; empty when there is no debug information.
-std::string source_line(const std::string &object, std::uintptr_t address) {
+// The next line of the text, which is taken from it.
+std::string_view take_line(std::string_view *text) {
+  const std::string_view line = text->substr(0, text->find('\n'));
+  text->remove_prefix(std::min(line.size() + 1, text->size()));
+  return line;
+}
+
+// "server.c:120 in handle_request", and what that is in line in; empty when there is no debug information.
+std::vector<std::string> source_lines(const std::string &object, std::uintptr_t address) {
   if (getauxval(AT_SECURE) != 0) return {};  // no programs of the user's choice on another's behalf
   const std::string at = hex(address);
-  const std::string output = output_of({"addr2line", "-C", "-f", "-e", object.c_str(), at.c_str()});
-  const std::size_t end_of_name = output.find('\n');
-  if (end_of_name == std::string::npos) return {};
-  const std::string_view name = std::string_view(output).substr(0, end_of_name);
-  std::string_view line = std::string_view(output).substr(end_of_name + 1);
-  line = line.substr(0, line.find_first_of(" \n"));  // a discriminator may follow
-  if (line.empty() || line[0] == '?') return {};
-  return std::string(base_name(line)) + " in " + std::string(name);
+  const std::string output = output_of({"addr2line", "-C", "-f", "-i", "-e", object.c_str(), at.c_str()});
+  std::vector<std::string> places;
+  for (std::string_view left = output; !left.empty();) {
+    const std::string_view function = take_line(&left);
+    std::string_view line = take_line(&left);
+    line = line.substr(0, line.find(' '));  // a discriminator may follow
+    if (line.empty() || line[0] == '?') break;
+    places.push_back(std::string(base_name(line)) + " in " + std::string(function));
+  }
+  return places;
 }
 
 }  // namespace
 
-std::string place_of_call(const void *return_address, bool with_lines) {
-  if (return_address == nullptr) return "an unknown place";
+std::vector<std::string> places_of_call(const void *return_address, bool with_lines) {
+  if (return_address == nullptr) return {"an unknown place"};
   // The call stands before the address that it returns to, which may already belong to another line.
   const auto address = reinterpret_cast<std::uintptr_t>(return_address) - 1;
   Dl_info info;
   link_map *object = nullptr;
   if (dladdr1(reinterpret_cast<const void *>(address), &info, reinterpret_cast<void **>(&object), RTLD_DL_LINKMAP) == 0)
-    return hex(address);
+    return {hex(address)};
   const std::uintptr_t offset = address - object->l_addr;
   std::string where(base_name(info.dli_fname));
   where.append("+").append(hex(offset));
-  if (with_lines) {
-    const std::string line = source_line(file_of(*object), offset);
-    if (!line.empty()) return line + " (" + where + ")";
-  }
-  if (info.dli_sname == nullptr) return where;
+  std::vector<std::string> lines;
+  if (with_lines) lines = source_lines(file_of(*object), offset);
+  for (std::string &line : lines) line.append(" (").append(where).append(")");
+  if (!lines.empty()) return lines;
+  if (info.dli_sname == nullptr) return {where};
   const auto symbol = reinterpret_cast<std::uintptr_t>(info.dli_saddr);
-  return std::string(info.dli_sname) + "+" + hex(address - symbol) + " (" + where + ")";
+  return {std::string(info.dli_sname) + "+" + hex(address - symbol) + " (" + where + ")"};
 }
 
 }  // namespace attrmgr::checked

@@ -54,6 +54,7 @@ void at_exit(int status, void *) {
 // libraries, which may free lists.
 [[gnu::constructor]] void start() {
   find_library();
+  stacks_wanted = options().stack > 1;
   pthread_atfork(before_fork, after_fork_in_parent, after_fork_in_child);
   on_exit(at_exit, nullptr);
   if (options().signal != 0) std::signal(options().signal, ask_for_report);
@@ -62,6 +63,7 @@ void at_exit(int status, void *) {
 }  // namespace
 
 std::atomic<bool> attention{true};
+bool stacks_wanted = false;
 
 void attend(const void *library_code) {
   attention.store(false, std::memory_order_relaxed);

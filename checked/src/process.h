@@ -13,4 +13,7 @@ extern std::atomic<bool> attention;
 // Does it. library_code: an address in the library.
 void attend(const void *library_code);
 
+// Set at the start: more calls are to be told of than the one that the library notes with each list.
+extern bool stacks_wanted;
+
 }  // namespace attrmgr::checked

@@ -9,6 +9,7 @@
 #include <cstdio>
 #include <cstring>
 #include <map>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -49,14 +50,16 @@ class Text {
 // Asks for a place once, however often it is named.
 class Places {
  public:
-  const char *operator()(const void *address) {
+  const std::vector<std::string> &all(const void *address) {
     auto [known, is_new] = known_.try_emplace(address);
-    if (is_new) known->second = place_of_call(address, options().lines);
-    return known->second.c_str();
+    if (is_new) known->second = places_of_call(address, options().lines);
+    return known->second;
   }
 
+  const char *operator()(const void *address) { return all(address).front().c_str(); }
+
  private:
-  std::map<const void *, std::string> known_;
+  std::map<const void *, std::vector<std::string>> known_;
 };
 
 const char *plural(std::uint64_t number) { return number == 1 ? "" : "s"; }
@@ -85,25 +88,38 @@ void write_out(const std::string &text) {
   if (file != STDERR_FILENO) close(file);
 }
 
+// What called the first call, up to `main`, as far as the option goes.
+void put_callers(Text &text, Places &place, std::span<const void *const> calls) {
+  std::size_t told = 0;
+  for (const void *call : calls) {
+    if (call == nullptr) return;
+    for (const std::string &caller : place.all(call)) {
+      if (told == options().stack) return;
+      if (told++ > 0) text.line("      called from %s", caller.c_str());
+      if (caller.find(" in main ") != std::string::npos) return;
+    }
+  }
+}
+
 // ---- Lists ----
 
 struct Group {
-  const void *owner;
+  std::vector<const void *> calls;
   std::vector<const SurveyedList *> lists;
   std::uint64_t attributes = 0;
 };
 
-std::vector<Group> by_owner(const std::vector<SurveyedList> &lists) {
-  std::map<const void *, Group> groups;
+std::vector<Group> by_caller(const std::vector<SurveyedList> &lists) {
+  std::map<std::vector<const void *>, Group> groups;
   for (const SurveyedList &list : lists) {
-    if (list.sub_list) continue;  // its owner is told of
-    Group &group = groups[list.owner];
-    group.owner = list.owner;
+    if (list.sub_list) continue;  // the list that it belongs to is told of
+    Group &group = groups[list.calls];
+    group.calls = list.calls;
     group.lists.push_back(&list);
     group.attributes += list.attributes;
   }
   std::vector<Group> sorted;
-  for (auto &[owner, group] : groups) sorted.push_back(std::move(group));
+  for (auto &[calls, group] : groups) sorted.push_back(std::move(group));
   std::stable_sort(sorted.begin(), sorted.end(),
                    [](const Group &a, const Group &b) { return a.lists.size() > b.lists.size(); });
   return sorted;
@@ -122,11 +138,12 @@ std::uint32_t put_lists(Text &text, Places &place, When when) {
   const std::size_t outer = lists.size() - sub_lists;
   text.line("%zu list%s %s, with %zu sub-list%s", outer, plural(outer),
             when == When::kAtExit ? "never freed" : "in use", sub_lists, plural(sub_lists));
-  const std::vector<Group> groups = by_owner(lists);
+  const std::vector<Group> groups = by_caller(lists);
   for (std::size_t i = 0; i < std::min(groups.size(), kGroupsShown); ++i) {
     const Group &group = groups[i];
     text.line("  %zu list%s, %llu attribute%s, made at %s", group.lists.size(), plural(group.lists.size()),
-              wide(group.attributes), plural(group.attributes), place(group.owner));
+              wide(group.attributes), plural(group.attributes), place(group.calls[0]));
+    put_callers(text, place, group.calls);
     for (std::size_t n = 0; n < std::min(group.lists.size(), kListsShown); ++n) put_list(text, *group.lists[n]);
     if (group.lists.size() > kListsShown) text.line("    and %zu more", group.lists.size() - kListsShown);
   }
@@ -137,8 +154,9 @@ std::uint32_t put_lists(Text &text, Places &place, When when) {
 // ---- Misuses ----
 
 void put_misuse(Text &text, Places &place, const Misuse &misuse) {
-  text.line("  %llu use%s at %s, of 0x%llx", wide(misuse.uses), plural(misuse.uses), place(misuse.caller),
+  text.line("  %llu use%s at %s, of 0x%llx", wide(misuse.uses), plural(misuse.uses), place(misuse.calls[0]),
             wide(misuse.handle));
+  put_callers(text, place, misuse.calls);
   if (misuse.verdict != Verdict::kWithdrawn) return;
   if (misuse.withdrawn_by == nullptr) {
     text.line("    freed or handed over too long ago to tell where");

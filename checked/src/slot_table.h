@@ -26,11 +26,19 @@ struct Slot {
   std::uint32_t next_free;                // for the queue that a free slot stands in
 };
 
+inline constexpr std::size_t kCallsMax = 16;
+
+// The calls that led to a list, innermost first; null behind the last.
+struct CallStack {
+  std::atomic<const void *> calls[kCallsMax];
+};
+
 // What is written down for the report. Apart from the slots, which every look-up reads: so more of them fit the nearest
 // cache.
 struct History {
   std::atomic<const void *> withdrawn_by[kWithdrawalsKept];  // the calls that ended the last lists here, by generation
   std::atomic<std::uint32_t> process;                        // in which process the list was made, see inherit()
+  std::atomic<CallStack *> made_by;                          // null unless stacks are wanted; kept for the next list
 };
 
 struct Chunk {

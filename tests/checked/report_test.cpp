@@ -137,9 +137,9 @@ TEST(CheckedReport, FollowsItsOptions) {
        "1 list in use, with 0 sub-lists\n  1 list, 0 attributes, " + kMade + "    HANDLE: 0 attributes\n", 0},
       {"what is no option", "leaks=2,,abort", "use_after_free",
        "attrmgr_checked: ATTRMGR_CHECKED: 'leaks=2' is no option; there are report=FILE, abort=1, leaks=0, lines=0, "
-       "exitcode=N, signal=N\n"
+       "exitcode=N, stack=N, signal=N\n"
        "attrmgr_checked: ATTRMGR_CHECKED: 'abort' is no option; there are report=FILE, abort=1, leaks=0, lines=0, "
-       "exitcode=N, signal=N\n" +
+       "exitcode=N, stack=N, signal=N\n" +
            gone("1 use", kAddName, "aaa_attr_list_free(list);"),
        0},
   };
