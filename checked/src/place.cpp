@@ -92,7 +92,7 @@ std::vector<std::string> source_lines(const std::string &object, std::uintptr_t 
   for (std::string_view left = output; !left.empty();) {
     const std::string_view function = take_line(&left);
     std::string_view line = take_line(&left);
-    line = line.substr(0, line.find(' '));  // a discriminator may follow
+    line = line.substr(0, line.find(" (discriminator"));
     if (line.empty() || line[0] == '?') break;
     places.push_back(std::string(base_name(line)) + " in " + std::string(function));
   }

@@ -120,7 +120,7 @@ def _read(process, address, size):
     try:
         return process.read(address, size)
     except Unreadable:
-        raise Damaged(f"{size} bytes at {address:#x} cannot be read") from None
+        raise Damaged(f"{count(size, 'byte')} at {address:#x} cannot be read") from None
 
 
 def _all_lines(process, address, length):
