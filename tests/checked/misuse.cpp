@@ -1,6 +1,7 @@
 // misuse KIND: commits one kind of misuse, each in a function of its own. report_test.cpp holds the report of the
 // checked handle table against the lines that are at fault here.
 #include <attrmgr/attrmgr.h>
+#include <dlfcn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -169,6 +170,15 @@ void asked_by_signal() {
   aaa_attr_list_free(list);
 }
 
+// The report that a program asks for itself, where the checked table is in use.
+void asked_by_call() {
+  const Handle list = new_list();
+  void *report = dlsym(RTLD_DEFAULT, "attrmgr_checked_report");
+  const bool one = report != nullptr && reinterpret_cast<std::uint32_t (*)()>(report)() == 1;
+  aaa_attr_list_free(list);
+  if (!one) std::exit(3);
+}
+
 const struct {
   const char *name;
   void (*commit)();
@@ -193,6 +203,7 @@ const struct {
     KIND(handed_to_another_thread),
     KIND(freed_by_a_destructor),
     KIND(asked_by_signal),
+    KIND(asked_by_call),
 #undef KIND
 };
 

@@ -62,6 +62,9 @@ std::string readable(const std::string &report) {
 const std::string kNone;
 const std::string kMade = "made at `aaa_attr_list_alloc(&list);`\n";
 
+const std::string kInUse =
+    "1 list in use, with 0 sub-lists\n  1 list, 0 attributes, " + kMade + "    HANDLE: 0 attributes\n";
+
 std::string gone(const std::string &uses, const std::string &used, const std::string &ended) {
   return uses + " of handles whose list is gone\n  " + uses + " at `" + used +
          "`, of HANDLE\n    freed or handed over at `" + ended + "`\n";
@@ -133,8 +136,13 @@ TEST(CheckedReport, FollowsItsOptions) {
        "1 list never freed, with 0 sub-lists\n  1 list, 0 attributes, " + kMade +
            "    HANDLE: 0 attributes; damaged from there on\n",
        0},
-      {"on demand", "signal=" + std::to_string(SIGUSR1), "asked_by_signal",
-       "1 list in use, with 0 sub-lists\n  1 list, 0 attributes, " + kMade + "    HANDLE: 0 attributes\n", 0},
+      {"the calls above", "stack=3", "use_after_free",
+       "1 use of handles whose list is gone\n  1 use at `" + kAddName +
+           "`, of HANDLE\n      called from `add_name(list);`\n      called from `kind.commit();`\n"
+           "    freed or handed over at `aaa_attr_list_free(list);`\n",
+       0},
+      {"by signal", "signal=" + std::to_string(SIGUSR1), "asked_by_signal", kInUse, 0},
+      {"by a call", "stack=1", "asked_by_call", kInUse, 0},
       {"what is no option", "leaks=2,,abort", "use_after_free",
        "attrmgr_checked: ATTRMGR_CHECKED: 'leaks=2' is no option; there are report=FILE, abort=1, leaks=0, lines=0, "
        "exitcode=N, stack=N, signal=N\n"
