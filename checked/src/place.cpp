@@ -94,6 +94,7 @@ std::vector<std::string> source_lines(const std::string &object, std::uintptr_t 
     std::string_view line = take_line(&left);
     line = line.substr(0, line.find(" (discriminator"));
     if (line.empty() || line[0] == '?') break;
+    if (line.ends_with(":?")) line.remove_suffix(2);  // the file alone is known
     places.push_back(std::string(base_name(line)) + " in " + std::string(function));
   }
   return places;

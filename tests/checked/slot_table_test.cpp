@@ -101,17 +101,30 @@ TEST(CheckedTable, ServesThreads) {
   EXPECT_EQ(wrong, 0);
 }
 
-// Two threads that free the same list at once: one of them does, and the slot is given back once.
+// Two threads free the same list at once, again and again: one of them does, and the slot is given back once, so that
+// no two lists share it later.
 TEST(CheckedTable, FreesThatRaceEndOneListOnce) {
-  for (int round = 0; round < 500; ++round) {
-    const std::uint64_t handle = id_get(&lists[0], 1);
-    std::thread rival(id_delete, handle, 1);
-    id_delete(handle, 1);
-    rival.join();
-    ASSERT_EQ(status_of(handle), kStale);
+  constexpr int kRounds = 5000;
+  std::atomic<int> round{0}, done{0};
+  std::atomic<std::uint64_t> shared{0};
+  std::thread rival([&] {
+    for (int mine = 1; mine <= kRounds; ++mine) {
+      while (round != mine) std::this_thread::yield();
+      id_delete(shared, 1);
+      done = mine;
+    }
+  });
+  for (int mine = 1; mine <= kRounds; ++mine) {
+    shared = id_get(&lists[0], 1);
+    round = mine;
+    id_delete(shared, 1);
+    while (done != mine) std::this_thread::yield();
+    ASSERT_EQ(status_of(shared), kStale);
   }
-  std::set<std::uint64_t> live;
-  for (int i = 0; i < 5000; ++i) ASSERT_TRUE(live.insert(id_get(&lists[i % 4], 1)).second);
+  rival.join();
+  std::vector<std::uint64_t> live;
+  for (int i = 0; i < 2 * kRounds; ++i) live.push_back(id_get(&lists[0], 1));
+  for (const std::uint64_t handle : live) ASSERT_EQ(status_of(handle), kValid) << "another list has its slot";
   for (const std::uint64_t handle : live) id_delete(handle, 1);
 }
 
