@@ -11,13 +11,13 @@ using List = aaa_attr_list_handle;
 
 // Types of several formats, none twice in a short list.
 struct Attribute {
-  std::uint32_t type;
   const char *value;
   std::uint32_t length;
+  std::uint32_t type;
 };
 constexpr Attribute kAttributes[] = {
-    {197, "mira.holt@fibre.example", 23}, {2, "\1\0\0\0", 4}, {7, "\x0a\0\0\1", 4},      {30, "0123456789abcdef", 16},
-    {11, "0123456789abcdef", 16},         {25, "\1", 1},      {15, "pool-of-north", 13}, {453, "12345678", 8},
+    {"mira.holt@fibre.example", 23, 197}, {"\1\0\0\0", 4, 2}, {"\x0a\0\0\1", 4, 7},      {"0123456789abcdef", 16, 30},
+    {"0123456789abcdef", 16, 11},         {"\1", 1, 25},      {"pool-of-north", 13, 15}, {"12345678", 8, 453},
 };
 constexpr std::uint32_t kGrouped = 444;
 constexpr std::uint32_t kRefused = 1;

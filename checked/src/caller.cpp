@@ -85,7 +85,7 @@ struct Frame {
 constexpr int kFramesMax = 64;
 constexpr std::uintptr_t kFrameSizeMax = 1 << 20;
 
-[[gnu::no_sanitize("address"), gnu::no_sanitize("thread")]] const void *follow(const Frame *frame) {
+__attribute__((no_sanitize("address"), no_sanitize("thread"))) const void *follow(const Frame *frame) {
   for (int i = 0; i < kFramesMax; ++i) {
     if (!library.contains(number(frame->return_address))) return frame->return_address;
     const std::uintptr_t distance = number(frame->outer) - number(frame);

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cinttypes>
 #include <climits>
 #include <cstdint>
 #include <cstdio>
@@ -17,14 +18,12 @@
 #include <string_view>
 #include <vector>
 
-extern char **environ;
-
 namespace attrmgr::checked {
 namespace {
 
 std::string hex(std::uintptr_t number) {
   char text[32];
-  std::snprintf(text, sizeof text, "0x%jx", static_cast<std::uintmax_t>(number));
+  std::snprintf(text, sizeof text, "0x%" PRIxPTR, number);
   return text;
 }
 

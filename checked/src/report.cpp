@@ -26,6 +26,7 @@ constexpr std::size_t kListsShown = 3;  // of a group
 // Lines of text, each begun in the way that tells them from the program's own.
 class Text {
  public:
+  // NOLINTNEXTLINE(cert-dcl50-cpp): the compiler checks the arguments, as it does for printf
   [[gnu::format(printf, 2, 3)]] void line(const char *format, ...) {
     char start[48];
     std::snprintf(start, sizeof start, "attrmgr_checked[%d]: ", static_cast<int>(getpid()));
@@ -119,6 +120,7 @@ std::vector<Group> by_caller(const std::vector<SurveyedList> &lists) {
     group.attributes += list.attributes;
   }
   std::vector<Group> sorted;
+  sorted.reserve(groups.size());
   for (auto &[calls, group] : groups) sorted.push_back(std::move(group));
   std::stable_sort(sorted.begin(), sorted.end(),
                    [](const Group &a, const Group &b) { return a.lists.size() > b.lists.size(); });
