@@ -107,7 +107,7 @@ class Survey {
   std::byte bytes_[kBlockMax];
 };
 
-// What malloc_pc noted behind a list's first block; only the library's own notes it there.
+// What malloc_pc noted after a list's first block; only the library's own notes it there.
 const void *owner_of(const void *head) {
   const void *owner = nullptr;
   if (malloc_pc == nullptr || !in_library(reinterpret_cast<const void *>(malloc_pc))) return nullptr;

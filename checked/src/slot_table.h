@@ -19,6 +19,7 @@ inline constexpr std::uint32_t kSlotsMax = kSlotsPerChunk * kChunksMax;
 inline constexpr std::uint32_t kGenerationMax = 0xFFFFFFFF;
 inline constexpr unsigned kGenerationShift = 32;
 inline constexpr std::uint32_t kWithdrawalsKept = 5;
+inline constexpr std::size_t kCallsMax = 16;
 
 struct Slot {
   std::atomic<void *> block;              // the list's first block; null while there is no list
@@ -26,9 +27,7 @@ struct Slot {
   std::uint32_t next_free;                // for the queue that a free slot stands in
 };
 
-inline constexpr std::size_t kCallsMax = 16;
-
-// The calls that led to a list, innermost first; null behind the last.
+// The calls that led to a list, innermost first; null after the last.
 struct CallStack {
   std::atomic<const void *> calls[kCallsMax];
 };

@@ -105,7 +105,7 @@ def _tlv_lines(data, indent, depth=0):
     if hidden_note(records):
         yield indent + hidden_note(records)
     if len(data) > 0:
-        raise Damaged(f"{count(len(data), 'byte')} left over behind the last record")
+        raise Damaged(f"{count(len(data), 'byte')} left over after the last record")
 
 
 def _body_size(data):

@@ -262,8 +262,8 @@ def _extent(value):
     if value_type.code == gdb.TYPE_CODE_ARRAY:
         return int(value.address), value_type.sizeof
     if value_type.code == gdb.TYPE_CODE_STRUCT and (value_type.name or "").startswith("std::vector<"):
-        first, behind = int(value["_M_impl"]["_M_start"]), int(value["_M_impl"]["_M_finish"])
-        return first, behind - first
+        first, end = int(value["_M_impl"]["_M_start"]), int(value["_M_impl"]["_M_finish"])
+        return first, end - first
     return int(value), None
 
 

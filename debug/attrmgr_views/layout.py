@@ -108,7 +108,7 @@ def records_of(block):
     for number in range(block.record_count):
         place = f"record {number} of the block at {block.address:#x}"
         if at + RECORD_HEADER_SIZE > len(block.records):
-            raise Damaged(f"{place} begins behind the block's used bytes")
+            raise Damaged(f"{place} begins after the block's used bytes")
         attribute_type, flags, length = struct.unpack_from("=HHI", block.records, at)
         at += RECORD_HEADER_SIZE
         meta = None
@@ -122,4 +122,4 @@ def records_of(block):
         yield Record(attribute_type, flags, block.records[at : at + length], meta)
         at += length
     if at < len(block.records):
-        raise Damaged(f"the block at {block.address:#x} has {len(block.records) - at} used bytes behind its last record")
+        raise Damaged(f"the block at {block.address:#x} has {len(block.records) - at} used bytes after its last record")

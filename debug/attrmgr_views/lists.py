@@ -103,7 +103,7 @@ class AttributeList:
 
 
 def _owner(process, first_block):
-    """The code that made the list, which the library notes behind the first block."""
+    """The code that made the list, which the library notes after the first block."""
     try:
         (owner,) = POINTER.unpack(process.read(first_block + HEAD_SIZE, POINTER.size))
     except Unreadable:
