@@ -1,4 +1,4 @@
-// A list's blocks as they lie in memory. With the library's own handle table the handle is the first block's address.
+// A list's blocks as they lie in memory, found through the handle table that is in use.
 #pragma once
 
 #include <cstdio>
@@ -6,7 +6,12 @@
 #include "support/lists.h"
 
 struct Block {
-  explicit Block(std::uint64_t address) : bytes_(reinterpret_cast<std::uint8_t *>(address)) {}
+  explicit Block(std::uint8_t *bytes) : bytes_(bytes) {}
+  // The list's first one.
+  explicit Block(aaa_attr_list_handle list) {
+    std::uint32_t status;
+    bytes_ = static_cast<std::uint8_t *>(id_to_ptr(list, &status, 1));
+  }
   std::uint8_t *at(std::size_t offset) const { return bytes_ + offset; }
   template <class T = std::uint16_t>
   T get(std::size_t offset) const {
@@ -24,7 +29,7 @@ struct Block {
 
 inline std::vector<Block> blocks_of(aaa_attr_list_handle list) {
   std::vector<Block> blocks;
-  for (std::uint64_t at = list; at != 0; at = blocks.back().get<std::uint64_t>(16)) blocks.emplace_back(at);
+  for (Block block(list); block.at(0) != nullptr; block = Block(block.get<std::uint8_t *>(16))) blocks.push_back(block);
   return blocks;
 }
 

@@ -18,12 +18,11 @@ struct Client {
   bool registered;
   std::uint16_t ids[2];
   const char *name;
-  std::uint16_t handle_table;
 } client;
 
 }  // namespace
 
-std::uint16_t handle_table() { return client.handle_table; }
+std::uint16_t handle_table_number = 0;
 
 }  // namespace attrmgr
 
@@ -32,8 +31,8 @@ using namespace attrmgr;
 aaa_attr_cerrno aaa_attr_client_register(const char *name, const std::uint16_t *ids) {
   if (name == nullptr || ids == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   if (client.registered) return 0;
-  if (client.handle_table == 0) client.handle_table = id_create_new_table(kTableInitial, kTableMaximum, kTableName);
-  if (client.handle_table == 0) return AAA_ATTR_ERR_NO_MEMORY;
+  if (handle_table_number == 0) handle_table_number = id_create_new_table(kTableInitial, kTableMaximum, kTableName);
+  if (handle_table_number == 0) return AAA_ATTR_ERR_NO_MEMORY;
   client.ids[0] = ids[0];
   client.ids[1] = ids[1];
   client.name = strdup(name);
