@@ -93,7 +93,10 @@ const struct {
     {"address_for_a_handle", foreign(kAddName)},
     {"handle_cut_to_32_bits", foreign(kAddName)},
     {"two_owners", gone("1 use", "aaa_attr_list_free(other);", "aaa_attr_list_free(one);")},
-    {"bogus_grouped_value", foreign("aaa_attr_list_free(list);")},
+    {"bogus_grouped_value",
+     "2 uses of numbers that never were a handle\n"
+     "  1 use at `aaa_attr_add(list, kGrouped, &bogus, sizeof bogus, nullptr);`, of HANDLE\n"
+     "  1 use at `aaa_attr_list_free(list);`, of HANDLE\n"},
     {"leaked_lists",
      "5 lists never freed, with 5 sub-lists\n"
      "  5 lists, 45 attributes, " +

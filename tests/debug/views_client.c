@@ -3,8 +3,8 @@
 #include <stdlib.h>
 #include <string.h>
 
-/* Offsets in a block and its first record, docs/layout.md. */
-enum { kMagic = 0, kFlags = 3, kUsed = 10, kNext = 16, kFirstLength = 28 };
+/* Offsets in a block, its first record, and the value of a second one after the name "x"; docs/layout.md. */
+enum { kMagic = 0, kFlags = 3, kUsed = 10, kNext = 16, kFirstLength = 28, kEmptyGroup = 24 + 10 + 8 };
 
 enum { kNumber = 2, kEnum = 3, kAddr = 7, kAddr6 = 11, kBool = 25, kBinary = 30, kSecret = 145, kTime = 186 };
 enum { kName = 197, kLi = 293, kAddress = 429, kGrouped = 444, kWide = 453 };
@@ -72,6 +72,7 @@ int main(void) {
   aaa_cursor_get_next(in_buffer);
   char other[8] = {9};
 
+  const aaa_attr_list_handle nothing = 0;
   const aaa_attr_list_handle bad_magic = list_with("x"), freed_mark = list_with("x"), no_head = list_with("x");
   const aaa_attr_list_handle bad_used = list_with("x"), long_record = list_with("x"), short_records = list_with("x");
   const aaa_attr_list_handle loop = list_with("x"), wild_next = list_with("x"), itself = list_with("x");
@@ -83,9 +84,10 @@ int main(void) {
   put16(short_records, kUsed, 64);
   put_next(loop, block_of(loop));
   put_next(wild_next, (const void *)8);
-  aaa_attr_add_existing_group_list(itself, itself, kGrouped, NULL);
+  aaa_attr_add_existing_group_list(itself, nothing, kGrouped, NULL);
+  memcpy(block_of(itself) + kEmptyGroup, &itself, sizeof itself); /* no call does it */
 
-  const aaa_attr_list_handle gone = list_with("x"), nothing = 0, thin_air = 0x12345;
+  const aaa_attr_list_handle gone = list_with("x"), thin_air = 0x12345;
   aaa_attr_list_free(gone);
   paused();
   (void)nothing, (void)thin_air, (void)no_cursor, (void)other; /* looked at by GDB alone */

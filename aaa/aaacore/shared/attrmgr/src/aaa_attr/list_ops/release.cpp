@@ -32,12 +32,11 @@ BlockView head_to_release(aaa_attr_list_handle list) {
 // A list that is about to go must not be found by another record that names it.
 constexpr std::uint16_t kQueuedMagic = 0;
 
-// Chains the sub-lists of the block's live records after tail and withdraws their handles. Returns the new tail. Of the
-// outermost list, `root`, blocks may be gone already: nothing of it is looked at.
-BlockView queue_sub_lists(BlockView block, BlockView tail, BlockView root) {
+// Chains the sub-lists of the block's live records after tail and withdraws their handles. Returns the new tail.
+BlockView queue_sub_lists(BlockView block, BlockView tail) {
   for (const RecordView record : BlockRecords(block)) {
     const aaa_attr_list_handle sub_list = sub_list_of(record);
-    if (sub_list == 0 || names_list_at(sub_list, root)) continue;
+    if (sub_list == 0) continue;
     BlockView head = head_to_release(sub_list);
     // A block without the head flag belongs to a list that has taken it in.
     if (!head || !head.has(kBlockHead)) continue;
@@ -49,11 +48,11 @@ BlockView queue_sub_lists(BlockView block, BlockView tail, BlockView root) {
   return tail;
 }
 
-void queue_all_sub_lists(BlockView first, BlockView root) {
+void queue_all_sub_lists(BlockView first) {
   BlockView tail = first;
   while (const BlockView next = tail.next()) tail = next;
   for (const BlockView block : Blocks(first))
-    if (block.has(kBlockHoldsGrouped)) tail = queue_sub_lists(block, tail, root);
+    if (block.has(kBlockHoldsGrouped)) tail = queue_sub_lists(block, tail);
 }
 
 // Frees the blocks of a chain up to the first one that has any of the flags, and returns that; null for none.
@@ -69,12 +68,15 @@ BlockView free_chain(BlockView block, std::uint8_t up_to = 0) {
 }  // namespace
 
 void release_list(aaa_attr_list_handle list) {
-  const BlockView head = head_to_release(list);
+  BlockView head = head_to_release(list);
   if (!head) return;
-  if (const BlockView block = free_chain(head, kBlockHoldsGrouped)) {
-    queue_all_sub_lists(block, head);
-    free_chain(block);
+  const BlockView first = head.has(kBlockHoldsGrouped) ? head : free_chain(head.next(), kBlockHoldsGrouped);
+  if (first) {
+    head.set_magic(kQueuedMagic);
+    queue_all_sub_lists(first);
+    free_chain(first == head ? head.next() : first);
   }
+  free_block(head);
   id_delete(list, handle_table());
 }
 
