@@ -175,6 +175,37 @@ Pair groups(std::uint32_t count) {
   return {"groups", tlv_of(records[0]), tlv_of(records[1])};
 }
 
+// Lists nested in each other, each with numbers of its own before the one or, in opposite order, after it.
+Pair levels(std::uint32_t depth, std::uint32_t numbers) {
+  Bytes bodies[2];
+  for (std::uint32_t level = 0; level <= depth; ++level)
+    for (const std::size_t way : {0u, 1u}) {
+      Bytes group, records;
+      if (level > 0) group = tlv_record(type::kGrouped, join({little(bodies[way].size() + 4, 4), bodies[way]}));
+      if (way == 1) append(&records, group);
+      for (std::uint32_t i = 0; i < numbers; ++i)
+        append(&records, tlv_record(type::kUlong, join({little(4, 4), little(way == 0 ? i : numbers - 1 - i, 4)})));
+      if (way == 0) append(&records, group);
+      bodies[way] = records;
+    }
+  return {"nested lists", tlv_of(bodies[0]), tlv_of(bodies[1])};
+}
+
+// Sub-lists that have nearly everything in common.
+Pair nearly_the_same(std::uint32_t groups, std::uint32_t numbers) {
+  Bytes common, records[2];
+  for (std::uint32_t i = 0; i < numbers; ++i)
+    append(&common, tlv_record(type::kUlong, join({little(4, 4), little(i, 4)})));
+  for (std::uint32_t i = 0; i < groups; ++i)
+    for (const std::size_t way : {0u, 1u}) {
+      const std::uint32_t own = numbers + (way == 0 ? i : groups - 1 - i);
+      const Bytes number = tlv_record(type::kUlong, join({little(4, 4), little(own, 4)}));
+      const Bytes all = way == 0 ? join({common, number}) : join({number, common});
+      append(&records[way], tlv_record(type::kGrouped, join({little(all.size() + 4, 4), all})));
+    }
+  return {"nearly the same groups", tlv_of(records[0]), tlv_of(records[1])};
+}
+
 using TwoLists = std::pair<List, List>;
 
 TEST(Growth, OneListAgainstAnotherIsNoSquare) {
@@ -189,7 +220,15 @@ TEST(Growth, OneListAgainstAnotherIsNoSquare) {
       pair_of("types above 622", 64'000, [&](std::uint32_t i) { return numbered(1000 + i)(i); }),
       pair_of("one-byte values", 100'000,
               [](std::uint32_t i) { return record(700 + i / 256, std::string(1, static_cast<char>(i))); }),
+      // Whatever a hash does with type and value: this undoes an exclusive or of the two.
+      pair_of("values that undo types", 40'000,
+              [](std::uint32_t i) {
+                const Bytes value = little(7 | ((700 + i) ^ 0x1234) << 8, 3);
+                return record(700 + i, {reinterpret_cast<const char *>(value.data()), value.size()});
+              }),
       groups(20'000),
+      levels(20, 3000),
+      nearly_the_same(24, 2500),
   };
   const std::pair<const char *, void (*)(TwoLists &)> calls[] = {
       {"aaa_attr_list_eq", [](TwoLists &lists) { EXPECT_EQ(aaa_attr_list_eq(lists.first, lists.second), 1); }},

@@ -31,8 +31,9 @@ void aaa_cursor_remove(aaa_cursor *cursor) {
     if (!is_grouped(record)) record.mark_deleted();
     return;
   }
+  record.mark_deleted();
   BlockView head;
-  if (resolve(cursor->handle, &head) == 0) remove_record(head, record);
+  if (resolve(cursor->handle, &head) == 0) note(head, kMayNeedPacking);
 }
 
 aaa_attr_cerrno aaa_cursor_set_producer_client_type(aaa_cursor *cursor, std::uint32_t client_type) {

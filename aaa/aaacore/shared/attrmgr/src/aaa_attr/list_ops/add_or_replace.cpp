@@ -15,9 +15,9 @@ namespace {
 
 // Service, protocol, tag and the mandatory bit; the client and the other flag bits are not what an attribute is
 // replaced by.
-bool same_meta(MetaView a, MetaView b) {
-  return a.service() == b.service() && a.protocol() == b.protocol() && a.tag() == b.tag() &&
-         ((a.flags() ^ b.flags()) & AAA_ATTR_META_MANDATORY) == 0;
+bool replaces(MetaView newer, MetaView older) {
+  return newer.service() == older.service() && newer.protocol() == older.protocol() && newer.tag() == older.tag() &&
+         ((newer.flags() ^ older.flags()) & AAA_ATTR_META_MANDATORY) == 0;
 }
 
 bool meta_agrees(RecordView found, const NewAttribute &attribute) {
@@ -25,7 +25,7 @@ bool meta_agrees(RecordView found, const NewAttribute &attribute) {
   if (attribute.meta == nullptr) return true;
   std::byte meta[kMetaSize];
   std::memcpy(meta, attribute.meta, sizeof meta);
-  return same_meta(found.meta(), MetaView(meta));
+  return replaces(MetaView(meta), found.meta());
 }
 
 // Both agree on having meta and on the length, so that the record keeps its size.

@@ -1,15 +1,15 @@
 // Equality of lists as sets: every attribute of each has a match in the other. Lists that hold the same in the same
-// order are equal after one pass over both, block by block if even the bytes are the same. All others are compared
-// class by class: the records whose hashes fall into one class are few enough for a window, and one pass over each list
-// tells whether they are the same set.
+// order are equal after one pass over both, block by block if even the bytes are the same. Of all others first the
+// values are compared, then the groups, class by class: the records whose hashes fall into one class are few enough for
+// a window, and one pass over each list tells whether they are the same set.
 //
-// A Grouped record's hash is that of what its sub-list holds, in any order. So sub-lists that differ are seldom
-// compared at all, and those that are equal are compared once, for both directions together; every other way, each
-// level of nesting would double the work.
+// A group's hash is that of what its sub-list holds, in any order. So sub-lists that differ are seldom compared at all,
+// and those that are equal are compared once, for both directions together; every other way, each level of nesting
+// would double the work.
 #include <attrmgr/aaa_attr.h>
 
+#include "aaa_attr/list_ops/contents.h"
 #include "aaa_attr/list_ops/match.h"
-#include "aaa_attr/list_ops/record_hash.h"
 #include "aaa_attr/list_ops/record_window.h"
 #include "aaa_attr/store/handle_check.h"
 #include "aaa_attr/store/sub_list.h"
@@ -60,44 +60,61 @@ bool same_sub_lists_in_order(aaa_attr_list_handle handle1, aaa_attr_list_handle 
 
 // ---- The same in any order ----
 
-// A number for what a list holds, whatever the order and the number of repetitions: a bit for each record's hash, and
-// of all bits a hash. Lists of many records that differ in few may have the same.
-class Contents {
+// As many as make a mebibyte of the shortest records a matter of a hundred passes.
+constexpr std::size_t kValueEntries = 2048;
+constexpr std::size_t kGroupEntries = 2048;
+
+// What the levels of a comparison share. Values need their window only while no sub-list is compared, so that each
+// level has all of it; the windows of groups stay, and each level leaves half of what it finds to those below it.
+struct Windows {
+  WindowSpace<kValueEntries> values;
+  WindowSpace<kGroupEntries> groups;
+  std::size_t groups_used = 0;
+};
+
+bool nested_equal(aaa_attr_list_handle handle1, aaa_attr_list_handle handle2, Windows &windows);
+
+// The records that are no groups.
+class Values {
  public:
-  std::uint64_t of(RecordView record) const {
-    if (!is_grouped(record)) return hasher_.of_value_and_meta(record);
-    return hasher_.of_number(of(sub_list_of(record)) ^ record.type());
+  explicit Values(bool among_groups) : among_groups_(among_groups) {}
+
+  bool include(RecordView record) const { return !among_groups_ || !is_grouped(record); }
+  std::uint64_t hash(RecordView record) const { return hasher_.of_value_and_meta(record); }
+  bool match(RecordView a, RecordView b) const { return a.type() == b.type() && same_value(a, b) && same_meta(a, b); }
+  void met_again(WindowEntry &, RecordView) const {}
+
+ private:
+  RecordHasher hasher_;
+  bool among_groups_;
+};
+
+class Groups {
+ public:
+  explicit Groups(Windows &windows) : windows_(windows) {}
+
+  bool include(RecordView record) const { return is_grouped(record); }
+  std::uint64_t hash(RecordView record) const { return contents_.of_record(record); }
+  bool match(RecordView a, RecordView b) const {
+    return a.type() == b.type() && nested_equal(sub_list_of(a), sub_list_of(b), windows_);
+  }
+
+  // Of equal sub-lists the one with fewer repetitions is compared with those to come.
+  void met_again(WindowEntry &known, RecordView equal) const {
+    const Resolved known_list = resolve(sub_list_of(known.record));
+    const Resolved other_list = resolve(sub_list_of(equal));
+    if (known_list.code != 0 || other_list.code != 0) return;
+    if (count_records(other_list.head) < count_records(known_list.head)) known.record = equal;
   }
 
  private:
-  std::uint64_t of(aaa_attr_list_handle list) const {
-    const Resolved resolved = resolve(list);
-    if (resolved.code != 0) return hasher_.of_number(list);
-    std::uint64_t seen[32] = {};
-    for (const RecordView record : Attributes(resolved.head)) {
-      const std::uint64_t hash = of(record);
-      seen[hash >> 6 & 31] |= std::uint64_t{1} << (hash & 63);
-    }
-    std::uint64_t sum = 0;
-    for (std::uint64_t place = 0; const std::uint64_t bits : seen) sum ^= hasher_.of_number(bits ^ place++ << 58);
-    return sum;
-  }
-
-  RecordHasher hasher_;
-};
-
-// As many as make a mebibyte of the shortest records a matter of a hundred passes.
-constexpr std::size_t kWindowEntries = 2048;
-
-// The space that the levels of a comparison share.
-struct Windows {
-  WindowSpace<kWindowEntries> space;
-  std::size_t used = 0;
+  Contents contents_;
+  Windows &windows_;
 };
 
 // The hashes that agree in some bits, which are none of those that a window tells records apart by.
 struct HashClass {
-  static constexpr unsigned kFirstBit = std::bit_width(2 * kWindowEntries - 1);
+  static constexpr unsigned kFirstBit = std::bit_width(2 * kValueEntries - 1);
   static constexpr unsigned kBitsMax = 32 - kFirstBit;
 
   bool contains(std::uint64_t hash) const { return ((hash >> kFirstBit ^ value) & ((1u << bits) - 1)) == 0; }
@@ -107,54 +124,35 @@ struct HashClass {
   unsigned bits = 0;
 };
 
-bool holds_grouped(BlockView list) {
-  for (const BlockView block : Blocks(list))
-    if (block.has(kBlockHoldsGrouped)) return true;
-  return false;
-}
-
-bool nested_equal(aaa_attr_list_handle handle1, aaa_attr_list_handle handle2, Windows &windows);
-
-// Two lists compared as sets, with a window over the first.
+// Whether the records of a kind, of two lists, are the same set.
+template <class Kind>
 class SetComparison {
  public:
-  SetComparison(BlockView list1, BlockView list2, Windows &windows)
-      : list1_(list1), list2_(list2), windows_(windows), window_(take_window()) {}
-  ~SetComparison() { windows_.used = start_; }
-  SetComparison(const SetComparison &) = delete;
-  SetComparison &operator=(const SetComparison &) = delete;
+  SetComparison(BlockView list1, BlockView list2, const Kind &kind, RecordWindow window)
+      : list1_(list1), list2_(list2), kind_(kind), window_(window) {}
 
   bool equal(HashClass hashes = {}) {
     const Outcome outcome = compare(hashes);
     if (outcome != Outcome::kTooMany) return outcome == Outcome::kEqual;
-    // So many records that differ do not have so much of a hash in common.
-    if (hashes.bits == HashClass::kBitsMax) return false;
-    return equal(hashes.half(0)) && equal(hashes.half(1));
+    if (hashes.bits < HashClass::kBitsMax) return equal(hashes.half(0)) && equal(hashes.half(1));
+    // So many that differ and have one hash: a matter of bad luck, and of patience.
+    return all_match(list1_, list2_, hashes) && all_match(list2_, list1_, hashes);
   }
 
  private:
   enum class Outcome { kEqual, kDifferent, kTooMany };
 
-  // A list that nests others leaves half of the space to them. Whom too little is left for has a little of his own.
-  RecordWindow take_window() {
-    const std::size_t left = kWindowEntries - start_;
-    const std::size_t share = nested_ ? left / 2 : left;
-    const std::size_t wanted = std::min(count_records(list1_), std::max(share, kFewEntries));
-    if (share < wanted) return RecordWindow(few_, 0, wanted);
-    windows_.used = start_ + wanted;
-    return RecordWindow(windows_.space, start_, wanted);
-  }
-
-  // The records of the class: those of the first list are collected, each value once; those of the second must be
-  // among them, and leave none over.
+  // The records of the class: those of the first list are collected, each once; those of the second must be among them,
+  // and leave none over.
   Outcome compare(HashClass hashes) {
     std::size_t unmatched = 0;
     window_.clear();
     for (const RecordView own : Attributes(list1_)) {
-      const std::uint64_t hash = hash_of(own);
+      if (!kind_.include(own)) continue;
+      const std::uint64_t hash = kind_.hash(own);
       if (!hashes.contains(hash)) continue;
       if (WindowEntry *known = find(hash, own)) {
-        keep_shorter(*known, own);
+        kind_.met_again(*known, own);
         continue;
       }
       if (window_.full()) return Outcome::kTooMany;
@@ -162,7 +160,8 @@ class SetComparison {
       ++unmatched;
     }
     for (const RecordView other : Attributes(list2_)) {
-      const std::uint64_t hash = hash_of(other);
+      if (!kind_.include(other)) continue;
+      const std::uint64_t hash = kind_.hash(other);
       if (!hashes.contains(hash)) continue;
       WindowEntry *match = find(hash, other);
       if (match == nullptr) return Outcome::kDifferent;
@@ -171,54 +170,91 @@ class SetComparison {
     return unmatched == 0 ? Outcome::kEqual : Outcome::kDifferent;
   }
 
-  std::uint64_t hash_of(RecordView record) const {
-    return nested_ ? contents_.of(record) : hasher_.of_value_and_meta(record);
-  }
-
   WindowEntry *find(std::uint64_t hash, RecordView wanted) {
-    return window_.find(hash, [this, wanted](const WindowEntry &entry) { return matches(entry.record, wanted); });
+    return window_.find(hash, [this, wanted](const WindowEntry &entry) { return kind_.match(entry.record, wanted); });
   }
 
-  bool matches(RecordView a, RecordView b) {
-    if (a.type() != b.type()) return false;
-    if (nested_ && is_grouped(a)) return nested_equal(sub_list_of(a), sub_list_of(b), windows_);
-    return same_value(a, b) && same_meta(a, b);
+  bool is_of(HashClass hashes, RecordView record) const {
+    return kind_.include(record) && hashes.contains(kind_.hash(record));
   }
 
-  // Of equal sub-lists the one with fewer repetitions is compared with those to come.
-  static void keep_shorter(WindowEntry &known, RecordView equal) {
-    if (!is_grouped(equal)) return;
-    const Resolved known_list = resolve(sub_list_of(known.record));
-    const Resolved other_list = resolve(sub_list_of(equal));
-    if (known_list.code != 0 || other_list.code != 0) return;
-    if (count_records(other_list.head) < count_records(known_list.head)) known.record = equal;
+  bool has_match(RecordView wanted, BlockView list) const {
+    for (const RecordView candidate : Attributes(list))
+      if (kind_.include(candidate) && kind_.match(candidate, wanted)) return true;
+    return false;
   }
 
-  static constexpr std::size_t kFewEntries = 16;
+  bool all_match(BlockView list, BlockView other, HashClass hashes) const {
+    for (const RecordView record : Attributes(list))
+      if (is_of(hashes, record) && !has_match(record, other)) return false;
+    return true;
+  }
 
   BlockView list1_;
   BlockView list2_;
-  const bool nested_ = holds_grouped(list1_) || holds_grouped(list2_);
-  Windows &windows_;
-  const std::size_t start_ = windows_.used;
-  WindowSpace<kFewEntries> few_;
+  const Kind &kind_;
   RecordWindow window_;
-  RecordHasher hasher_;
-  Contents contents_;
 };
+
+// How many groups a list has; the blocks tell which need not be looked at.
+std::size_t count_groups(BlockView list) {
+  std::size_t groups = 0;
+  for (const BlockView block : Blocks(list))
+    if (block.has(kBlockHoldsGrouped)) groups += block.record_count();
+  if (groups == 0) return 0;
+  groups = 0;
+  for (const RecordView record : Attributes(list)) groups += is_grouped(record);
+  return groups;
+}
+
+RecordView first_group(BlockView list) {
+  for (const RecordView record : Attributes(list))
+    if (is_grouped(record)) return record;
+  return {};
+}
+
+bool values_equal(BlockView list1, BlockView list2, bool among_groups, Windows &windows) {
+  const RecordWindow window(windows.values, 0, std::min(count_records(list1), kValueEntries));
+  return SetComparison(list1, list2, Values(among_groups), window).equal();
+}
+
+bool groups_equal(BlockView list1, std::size_t num_groups, BlockView list2, Windows &windows) {
+  constexpr std::size_t kFewEntries = 32;  // for whom the levels above have left little
+  WindowSpace<kFewEntries> few;
+  const Groups groups(windows);
+  const std::size_t start = windows.groups_used;
+  const std::size_t share = (kGroupEntries - start) / 4 * 3;
+  const std::size_t wanted = std::min(num_groups, std::max(share, kFewEntries));
+  if (wanted > share) return SetComparison(list1, list2, groups, RecordWindow(few, 0, wanted)).equal();
+  windows.groups_used = start + wanted;
+  const bool equal = SetComparison(list1, list2, groups, RecordWindow(windows.groups, start, wanted)).equal();
+  windows.groups_used = start;
+  return equal;
+}
+
+bool sets_equal(BlockView list1, BlockView list2, Windows &windows) {
+  const std::size_t groups1 = count_groups(list1);
+  const std::size_t groups2 = count_groups(list2);
+  if ((groups1 == 0) != (groups2 == 0)) return false;
+  if (!values_equal(list1, list2, groups1 != 0, windows)) return false;
+  if (groups1 == 0) return true;
+  // Of one group each nobody needs to know what it holds to know which to compare.
+  if (groups1 == 1 && groups2 == 1) return Groups(windows).match(first_group(list1), first_group(list2));
+  return groups_equal(list1, groups1, list2, windows);
+}
 
 bool nested_equal(aaa_attr_list_handle handle1, aaa_attr_list_handle handle2, Windows &windows) {
   if (handle1 == handle2) return true;
   const BlockView list1 = resolve_whole(handle1).head;
   const BlockView list2 = resolve_whole(handle2).head;
   if (!list1 || !list2) return false;
-  return same_in_order(list1, list2) || SetComparison(list1, list2, windows).equal();
+  return same_in_order(list1, list2) || sets_equal(list1, list2, windows);
 }
 
 // Not in line: lists in the same order need no windows on the stack.
 [[gnu::noinline]] bool equal_in_any_order(BlockView list1, BlockView list2) {
   Windows windows;
-  return SetComparison(list1, list2, windows).equal();
+  return sets_equal(list1, list2, windows);
 }
 
 }  // namespace

@@ -41,7 +41,8 @@ class RecordHasher {
   std::uint64_t of_value(RecordView record) const {
     const std::size_t length = record.length();
     const std::byte *at = record.value();
-    const std::uint64_t start = key_ ^ (std::uint64_t{length} << 16 | record.type());
+    // Mixed before the value comes in: else a value could undo what the type does to the same bits.
+    const std::uint64_t start = of_number(std::uint64_t{length} << 16 | record.type());
     if (!FourWords::suit(length)) return of_bytes(start, at, length);
     const FourWords words(length);
     const auto pair = [at](std::size_t i, std::size_t k) {

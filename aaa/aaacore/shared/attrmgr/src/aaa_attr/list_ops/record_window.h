@@ -46,9 +46,7 @@ class RecordWindow {
     std::memset(buckets_, 0xFF, num_buckets() * sizeof *buckets_);
   }
 
-  std::size_t size() const { return size_; }
   bool full() const { return size_ == capacity_; }
-  WindowEntry &operator[](std::size_t i) { return entries_[i].value; }
 
   // Only when it is not full.
   void add(std::uint64_t hash, RecordView record) {

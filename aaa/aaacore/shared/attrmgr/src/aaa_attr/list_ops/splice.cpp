@@ -22,9 +22,9 @@ aaa_attr_cerrno aaa_attr_list_merge_list(aaa_attr_list_handle destination, aaa_a
   to_last.set_next(from);
   to_last.clear_flags(kBlockLast);
   to.set_block_count(static_cast<std::uint16_t>(blocks));
-  note(to, from.own_word() & (kMayNeedPacking | kMayHoldTypeZero));
+  // A cursor that still stands in the source may remove records of what is the destination now.
+  note(to, kMayNeedPacking | (from.own_word() & kMayHoldTypeZero));
   if (!noted(from, kTailsAreClear)) rule_out(to, kTailsAreClear);
-  if (from.record_count() == 0) note(to, kMayNeedPacking);  // only a head may stay without records
   set_tail(to, from_last);
   // The former head is a block like any other now.
   from.clear_flags(kBlockHead);

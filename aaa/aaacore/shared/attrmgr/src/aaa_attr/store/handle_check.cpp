@@ -15,6 +15,7 @@ constexpr std::uint32_t kStatusStale = 2;
 // Where a handle leads, if anywhere.
 void *address_behind(aaa_attr_list_handle list) {
   if (list == 0) return nullptr;
+  if (handles_are_addresses()) return reinterpret_cast<void *>(list);
   std::uint32_t status = kStatusValid;
   void *address = id_to_ptr(list, &status, handle_table());
   return status == kStatusValid ? address : nullptr;

@@ -81,7 +81,6 @@ class FlatReader {
     std::uint16_t live_grouped;  // those that own a nested list
   };
 
-  bool enter_block();
   bool check_header();
   bool check_fit() const;
   bool check_records();
