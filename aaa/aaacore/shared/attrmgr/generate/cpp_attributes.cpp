@@ -43,7 +43,9 @@ std::string format_class(const Type &type) {
 
 void put_names(const Type &type) {
   constexpr std::size_t kLineEnd = 118;
-  std::printf("\ntemplate <>\ninline constexpr const char *names<%s>[] = {", enumeration_of(type).c_str());
+  const std::string enumeration = enumeration_of(type);
+  std::printf("\ntemplate <>\ninline constexpr std::uint32_t type_of<%s> = %u;\n", enumeration.c_str(), type.number);
+  std::printf("template <>\ninline constexpr const char *names<%s>[] = {", enumeration.c_str());
   std::size_t column = kLineEnd;
   for (const Value &value : type.values) {
     const std::string text = quoted(value.name) + ",";
@@ -82,18 +84,23 @@ namespace attrmgr::attr {
 
 void write_cpp_value_names() {
   std::fputs(
-      R"(// value_names.hpp: the names of the values of each enumeration, in the order of their numbers, for a name that is
-// checked while it compiles.
+      R"(// value_names.hpp: the attribute type of each enumeration, and the names of its values in the order of their numbers:
+// a name in the text of a program is checked while it compiles.
 //
 // Written from the dictionary by scripts/dictionary: do not edit.
 #pragma once
 
 #include <attrmgr/aaa_attr_names.h>
 
+#include <cstdint>
+
 // clang-format off
 
 namespace attrmgr::detail {
 
+// The attribute type whose values an enumeration has, 0 for any other type; and the names of its values.
+template <class Enumeration>
+inline constexpr std::uint32_t type_of = 0;
 template <class Enumeration>
 inline constexpr const char *names[] = {""};
 )",

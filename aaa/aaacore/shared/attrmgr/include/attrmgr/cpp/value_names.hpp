@@ -1,18 +1,25 @@
-// value_names.hpp: the names of the values of each enumeration, in the order of their numbers, for a name that is
-// checked while it compiles.
+// value_names.hpp: the attribute type of each enumeration, and the names of its values in the order of their numbers:
+// a name in the text of a program is checked while it compiles.
 //
 // Written from the dictionary by scripts/dictionary: do not edit.
 #pragma once
 
 #include <attrmgr/aaa_attr_names.h>
 
+#include <cstdint>
+
 // clang-format off
 
 namespace attrmgr::detail {
 
+// The attribute type whose values an enumeration has, 0 for any other type; and the names of its values.
+template <class Enumeration>
+inline constexpr std::uint32_t type_of = 0;
 template <class Enumeration>
 inline constexpr const char *names[] = {""};
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_disc_cause_ext> = 1;
 template <>
 inline constexpr const char *names<aaa_disc_cause_ext>[] = {
     "No Reason", "No Disconnect", "Unknown", "Call Disconnect", "CLID Auth Fail", "No Modem Available", "No Carrier",
@@ -45,31 +52,43 @@ inline constexpr const char *names<aaa_disc_cause_ext>[] = {
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_acct_status_type> = 3;
+template <>
 inline constexpr const char *names<aaa_acct_status_type>[] = {
     "noval0", "Start", "Stop", "Watchdog", "noval4", "noval5", "noval6", "Accounting-On", "Accounting-Off",
     "Tunnel-Start", "Tunnel-Stop", "Tunnel-Reject", "Tunnel-Link-Start", "Tunnel-Link-Stop", "Tunnel-Link-Reject",
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_auth_services> = 5;
+template <>
 inline constexpr const char *names<aaa_auth_services>[] = {
     "noval0", "framed", "voice", "fax", "passtrhu",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_authentic> = 17;
 template <>
 inline constexpr const char *names<aaa_authentic>[] = {
     "noval0", "RADIUS", "Local", "Remote", "Diameter",
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_authen_status> = 20;
+template <>
 inline constexpr const char *names<aaa_authen_status>[] = {
     "noval0", "authen", "unauthen",
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_authen_type> = 21;
+template <>
 inline constexpr const char *names<aaa_authen_type>[] = {
     "ascii", "pap", "chap", "eap", "mschap", "mschap_v2",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_author_type> = 22;
 template <>
 inline constexpr const char *names<aaa_author_type>[] = {
     "shell", "net", "conn", "cfg", "system", "clid", "ipmobile", "cmd", "preauth", "auth_proxy", "rm", "dialer",
@@ -77,20 +96,28 @@ inline constexpr const char *names<aaa_author_type>[] = {
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_authen_method> = 23;
+template <>
 inline constexpr const char *names<aaa_authen_method>[] = {
     "noval0", "pap", "chap", "otp", "eap", "eap-md5", "eap-sim",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_authen_strength> = 24;
 template <>
 inline constexpr const char *names<aaa_authen_strength>[] = {
     "noval0", "40bit", "128bit",
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_accounting_type> = 39;
+template <>
 inline constexpr const char *names<aaa_accounting_type>[] = {
     "noval0", "subscriber", "service", "feature", "mobile",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_connect_progress> = 57;
 template <>
 inline constexpr const char *names<aaa_connect_progress>[] = {
     "No Progress", "N/A", "Unknown", "3", "4", "5", "6", "7", "8", "9", "Call Up", "11", "12", "13", "14", "15", "16",
@@ -119,10 +146,14 @@ inline constexpr const char *names<aaa_connect_progress>[] = {
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_framed_protocol> = 71;
+template <>
 inline constexpr const char *names<aaa_framed_protocol>[] = {
     "noval0", "PPP", "SLIP", "ARAP", "GANDALF", "XYLOGICS", "X75", "GPRS_PDP_CONTEXT",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_parent_interface_type> = 95;
 template <>
 inline constexpr const char *names<aaa_parent_interface_type>[] = {
     "Async", "Serial", "PRI", "Async ISDN V120", "Async ISDN V110", "Virtual Terminal", "Async ISDN PIAFS",
@@ -136,6 +167,8 @@ inline constexpr const char *names<aaa_parent_interface_type>[] = {
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_port_type> = 96;
+template <>
 inline constexpr const char *names<aaa_port_type>[] = {
     "Async", "Serial", "PRI", "Async ISDN V120", "Async ISDN V110", "Virtual Terminal", "Async ISDN PIAFS",
     "HDLC Clear Channel", "X.25", "X.75", "G.3 Fax", "SDSL - Symmetric DSL", "ADSL-CAP - Asymmetric DSL", "ADSL_DMT",
@@ -147,6 +180,8 @@ inline constexpr const char *names<aaa_port_type>[] = {
     "IP over QinQ", "Virtual IP over Ethernet", "Virtual IP over VLAN", "Virtual IP over QinQ", "BRI", "None",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_error_cause> = 109;
 template <>
 inline constexpr const char *names<aaa_error_cause>[] = {
     "No Error", "Success", "Residual Session Context Removed", "Invalid EAP Packet", "Unsupported Attribute",
@@ -160,6 +195,8 @@ inline constexpr const char *names<aaa_error_cause>[] = {
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_protocol> = 163;
+template <>
 inline constexpr const char *names<aaa_protocol>[] = {
     "none", "invalid", "lcp", "ip", "ipv4", "ipsec", "ipx", "atalk", "xremote", "tn3270", "telnet", "tcp-clear",
     "rlogin", "lat", "pad", "osicp", "tagcp", "bacp", "deccp", "ccp", "cdp", "bridging", "nbf", "bap", "multilink",
@@ -169,16 +206,22 @@ inline constexpr const char *names<aaa_protocol>[] = {
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_service_type> = 167;
+template <>
 inline constexpr const char *names<aaa_service_type>[] = {
     "error", "Login", "Framed", "Callback Login", "Callback Framed", "Outbound", "Administrative", "NAS Prompt",
     "Authen Only", "Callback NAS Prompt", "Call Check", "Callback Admin", "Voice", "Fax", "Modem Relay", "EAPoUDP",
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_send_auth> = 174;
+template <>
 inline constexpr const char *names<aaa_send_auth>[] = {
     "none", "pap", "chap", "ms-chap", "eap",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_service> = 176;
 template <>
 inline constexpr const char *names<aaa_service>[] = {
     "none", "invalid", "shell", "arap", "ppp", "slip", "system", "resource", "connection", "tty-daemon", "vpdn",
@@ -187,10 +230,14 @@ inline constexpr const char *names<aaa_service>[] = {
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_accounting_record_type> = 182;
+template <>
 inline constexpr const char *names<aaa_accounting_record_type>[] = {
     "event_record", "start_record", "interim_record", "stop_record",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_disc_cause> = 193;
 template <>
 inline constexpr const char *names<aaa_disc_cause>[] = {
     "none", "user-request", "lost-carrier", "lost-service", "idle-timeout", "session-timeout", "admin-reset",
@@ -200,20 +247,28 @@ inline constexpr const char *names<aaa_disc_cause>[] = {
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_login_service> = 201;
+template <>
 inline constexpr const char *names<aaa_login_service>[] = {
     "Telnet", "Rlogin", "TCP Clear", "PortMaster", "LAT", "TCP Quiet", "Ascend TCP Quiet",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_ms_mppe_enc_policy> = 217;
 template <>
 inline constexpr const char *names<aaa_ms_mppe_enc_policy>[] = {
     "Encryption-Allowed", "Encryption-Required",
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_app_result_code> = 237;
+template <>
 inline constexpr const char *names<aaa_app_result_code>[] = {
     "NOT_SET", "CONVERT_TO_POSTPAID", "TERMINATE_SERVICE", "UPDATE_REPORT_FINAL", "INITIAL_REPORT_FINAL",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_identifier_type> = 245;
 template <>
 inline constexpr const char *names<aaa_identifier_type>[] = {
     "Invalid", "authen-status", "dnis", "domain", "media", "mlp-negotiated", "nas-port", "no-username", "protocol",
@@ -222,10 +277,14 @@ inline constexpr const char *names<aaa_identifier_type>[] = {
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_template_type> = 246;
+template <>
 inline constexpr const char *names<aaa_template_type>[] = {
     "Invalid", "service",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_nas_port_sub_id_type> = 251;
 template <>
 inline constexpr const char *names<aaa_nas_port_sub_id_type>[] = {
     "Invalid", "adapter", "channel", "ipaddr", "port", "shelf", "slot", "sub-interface", "type", "vci", "vlan", "vpi",
@@ -233,21 +292,29 @@ inline constexpr const char *names<aaa_nas_port_sub_id_type>[] = {
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_nas_port_type_id_type> = 252;
+template <>
 inline constexpr const char *names<aaa_nas_port_type_id_type>[] = {
     "Invalid", "async", "atm", "basic-rate", "ether", "ipsec", "none", "piafs", "pppatm", "pppether", "pppoeatm",
     "pppqinq", "pppvlan", "primary-rate", "sync", "v110", "v120", "vty", "x75",
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_media_type> = 253;
+template <>
 inline constexpr const char *names<aaa_media_type>[] = {
     "Invalid", "async", "atm", "ether", "ip", "isdn", "mpls", "sync",
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_protocol_type> = 254;
+template <>
 inline constexpr const char *names<aaa_protocol_type>[] = {
     "Invalid", "ip", "ppp", "dhcp", "dhcpv6",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_tunnel_type> = 263;
 template <>
 inline constexpr const char *names<aaa_tunnel_type>[] = {
     "none", "pptp", "l2f", "l2tp", "atmp", "vtp", "ah", "ip_ip", "min_ip_ip", "esp", "gre", "bay_dvs", "ip_in_ip",
@@ -255,35 +322,49 @@ inline constexpr const char *names<aaa_tunnel_type>[] = {
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_tunnel_medium_type> = 264;
+template <>
 inline constexpr const char *names<aaa_tunnel_medium_type>[] = {
     "Invalid", "IPv4", "IPv6", "NSAP", "HDLC", "BBN", "ALL_802",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_ipv4_multicast> = 314;
 template <>
 inline constexpr const char *names<aaa_ipv4_multicast>[] = {
     "None", "Qos Correlation", "Passive",
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_acct_backoff_status> = 345;
+template <>
 inline constexpr const char *names<aaa_acct_backoff_status>[] = {
     "noval0", "Pass", "Fail",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_torvo_mpc_protocol_interface> = 348;
 template <>
 inline constexpr const char *names<aaa_torvo_mpc_protocol_interface>[] = {
     "none", "pmipv6", "gtpv1", "pmipv4",
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_torvo_mn_service> = 351;
+template <>
 inline constexpr const char *names<aaa_torvo_mn_service>[] = {
     "none", "ipv4", "ipv6", "dual",
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_pdp_type> = 363;
+template <>
 inline constexpr const char *names<aaa_pdp_type>[] = {
     "IP", "PPP", "IPV4", "IPV6",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_pmip6_encap_type> = 381;
 template <>
 inline constexpr const char *names<aaa_pmip6_encap_type>[] = {
     "ipv6-in-ipv6", "ipv6-in-ipv4", "ipv6-in-ipv4-udp", "gre-in-ipv4", "gre-in-ipv6", "mgre-in-ipv4", "mgre-in-ipv6",
@@ -291,30 +372,42 @@ inline constexpr const char *names<aaa_pmip6_encap_type>[] = {
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_device_role> = 404;
+template <>
 inline constexpr const char *names<aaa_device_role>[] = {
     "Primary", "Secondary",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_disconnect_cause_enum> = 433;
 template <>
 inline constexpr const char *names<aaa_disconnect_cause_enum>[] = {
     "Rebooting", "Server-busy", "Not-interested-in-talking",
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_re_auth_request_type> = 434;
+template <>
 inline constexpr const char *names<aaa_re_auth_request_type>[] = {
     "Authorize-Only", "Authorize-Authenticate",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_security_supported> = 441;
 template <>
 inline constexpr const char *names<aaa_security_supported>[] = {
     "No security", "TLS",
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_session_failover> = 449;
+template <>
 inline constexpr const char *names<aaa_session_failover>[] = {
     "Refuse service", "Try again", "Allow service", "Try again allow service",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_termination_cause> = 450;
 template <>
 inline constexpr const char *names<aaa_termination_cause>[] = {
     "none", "Diameter Logout", "Diameter Service Not Provided", "Diameter Bad Answer", "Diameter Administrative",
@@ -326,61 +419,85 @@ inline constexpr const char *names<aaa_termination_cause>[] = {
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_prepaid_request_type> = 461;
+template <>
 inline constexpr const char *names<aaa_prepaid_request_type>[] = {
     "Invalid request", "Initial request", "Update request", "Final request", "Event request",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_prepaid_session_failover> = 463;
 template <>
 inline constexpr const char *names<aaa_prepaid_session_failover>[] = {
     "Failover notsupported", "Failover Supported",
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_prepaid_units> = 467;
+template <>
 inline constexpr const char *names<aaa_prepaid_units>[] = {
     "Time", "Money", "Total-Octets", "Input-Octets", "Output-Octets", "Service-units",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_prepaid_failure_handling> = 469;
 template <>
 inline constexpr const char *names<aaa_prepaid_failure_handling>[] = {
     "Session should terminate", "Session should continue", "RETRY and Terminate",
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_prepaid_message_failure_handling> = 470;
+template <>
 inline constexpr const char *names<aaa_prepaid_message_failure_handling>[] = {
     "Terminate or buffer data", "Session should continue",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_prepaid_final_unit_action> = 472;
 template <>
 inline constexpr const char *names<aaa_prepaid_final_unit_action>[] = {
     "Terminate", "Redirect", "Restricted Access",
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_prepaid_multiple_service_indicator> = 477;
+template <>
 inline constexpr const char *names<aaa_prepaid_multiple_service_indicator>[] = {
     "multiservice notsupported", "multiservice supported",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_subscription_id_type> = 486;
 template <>
 inline constexpr const char *names<aaa_subscription_id_type>[] = {
     "end-user-e164", "end-user-imsi", "end-user-sip-uri", "end-user-sip-nai", "end-user-private",
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_tariff_change_usage> = 488;
+template <>
 inline constexpr const char *names<aaa_tariff_change_usage>[] = {
     "units-before-tariff-change", "units-after-tariff-change", "units-indterminate",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_user_equipment_info_type> = 494;
 template <>
 inline constexpr const char *names<aaa_user_equipment_info_type>[] = {
     "intl-mobile-eqpmnt-iden", "mac-based", "eui-64", "modified-eui-64", "esn", "meid",
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_qt_reporting_reason> = 502;
+template <>
 inline constexpr const char *names<aaa_qt_reporting_reason>[] = {
     "qt-threshold", "qt-qht", "qt-final", "qt-exhausted", "qt-validity-time", "qt-other-qt-type", "qt-rating-change",
     "qt-forced-reauth",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_event_trigger> = 506;
 template <>
 inline constexpr const char *names<aaa_event_trigger>[] = {
     "PCF_CHANGE", "QOS_CHANGE", "RAT_CHANGE", "TFT_CHANGE", "PLMN_CHANGE", "LOSS_OF_FLOW", "RECOVERY_OF_FLOW",
@@ -389,65 +506,91 @@ inline constexpr const char *names<aaa_event_trigger>[] = {
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_qos_class> = 514;
+template <>
 inline constexpr const char *names<aaa_qos_class>[] = {
     "A", "B", "C", "D", "E", "F",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_flow_status> = 524;
 template <>
 inline constexpr const char *names<aaa_flow_status>[] = {
     "enabled-uplink", "enabled-downlink", "enabled", "disabled", "removed",
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_pcc_rule_status> = 525;
+template <>
 inline constexpr const char *names<aaa_pcc_rule_status>[] = {
     "active", "inactive", "temp-inactive",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_metering_method> = 526;
 template <>
 inline constexpr const char *names<aaa_metering_method>[] = {
     "duration", "volume", "duration-volume",
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_offline> = 527;
+template <>
 inline constexpr const char *names<aaa_offline>[] = {
     "disabled", "enabled",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_online> = 528;
 template <>
 inline constexpr const char *names<aaa_online>[] = {
     "disabled", "enabled",
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_reporting_level> = 530;
+template <>
 inline constexpr const char *names<aaa_reporting_level>[] = {
     "service-identifier", "group",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_bm_type> = 537;
 template <>
 inline constexpr const char *names<aaa_bm_type>[] = {
     "HomeBM", "VisitedBM",
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_accounting_real_time_required> = 542;
+template <>
 inline constexpr const char *names<aaa_accounting_real_time_required>[] = {
     "Deliver-And-Grant", "Grant-And-Store", "Grant-And-Lose",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_auth_request_type> = 543;
 template <>
 inline constexpr const char *names<aaa_auth_request_type>[] = {
     "Authenticate-Only", "Authorize-Only", "Authorize-Authenticate",
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_origin_aaa_protocol> = 544;
+template <>
 inline constexpr const char *names<aaa_origin_aaa_protocol>[] = {
     "Radius",
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_auth_session_state> = 547;
+template <>
 inline constexpr const char *names<aaa_auth_session_state>[] = {
     "State-Maintained", "No-State-Maintained",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_session_release_cause> = 549;
 template <>
 inline constexpr const char *names<aaa_session_release_cause>[] = {
     "Unspecified-reason", "UE-subscription_reason", "Insuff-server-resources", "IP-session-termination",
@@ -455,35 +598,49 @@ inline constexpr const char *names<aaa_session_release_cause>[] = {
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_ip_can_type> = 551;
+template <>
 inline constexpr const char *names<aaa_ip_can_type>[] = {
     "3GPP-GPRS", "DOCSIS", "xDSL", "WIMAX", "3GPP2", "3GPP-EPS", "Non-3GPP-EPS", "FBA",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_rat_type> = 552;
 template <>
 inline constexpr const char *names<aaa_rat_type>[] = {
     "WLAN", "Virtual", "ULTRAN", "GERAN", "GAN", "HSPA_EVOLUTION", "EUTRAN", "CDMA2000_1X", "HRPD", "UMB", "EHRPD",
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_usage_monitoring_level> = 572;
+template <>
 inline constexpr const char *names<aaa_usage_monitoring_level>[] = {
     "Session-Level", "Pcc-Rule-Level", "Adc-Rule-Level",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_bearer_usage> = 573;
 template <>
 inline constexpr const char *names<aaa_bearer_usage>[] = {
     "General", "IMS-Signalling",
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_bearer_control_mode> = 574;
+template <>
 inline constexpr const char *names<aaa_bearer_control_mode>[] = {
     "UE_ONLY", "NW_ONLY", "UE_NW",
 };
 
 template <>
+inline constexpr std::uint32_t type_of<aaa_usage_monitoring_report> = 576;
+template <>
 inline constexpr const char *names<aaa_usage_monitoring_report>[] = {
     "USAGE_MONITORING_REPORT_REQUIRED",
 };
 
+template <>
+inline constexpr std::uint32_t type_of<aaa_usage_monitoring_support> = 577;
 template <>
 inline constexpr const char *names<aaa_usage_monitoring_support>[] = {
     "USAGE_MONITORING_DISABLED",
