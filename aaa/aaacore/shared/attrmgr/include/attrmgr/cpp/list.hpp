@@ -20,39 +20,39 @@ class list_ref : public list_view {
 
   template <std::uint32_t kNumber, class Format>
   void add(attribute_type<kNumber, Format> type, std::type_identity_t<typename Format::argument> value) {
-    detail::check(store(aaa_attr_add_v1, type, value, nullptr, 0), "add", kNumber);
+    detail::check(store<aaa_attr_add>(type, value, nullptr), "add", kNumber);
   }
   template <std::uint32_t kNumber, class Format>
   void add(attribute_type<kNumber, Format> type, std::type_identity_t<typename Format::argument> value,
            const meta &with, std::uint32_t client_type = 0) {
     const aaa_attr_meta carried = detail::to_c(with);
-    detail::check(store(aaa_attr_add_v1, type, value, &carried, client_type), "add", kNumber);
+    detail::check(store<aaa_attr_add_v1>(type, value, &carried, client_type), "add", kNumber);
   }
   template <std::uint32_t kNumber, class Format>
   result<void> try_add(attribute_type<kNumber, Format> type, std::type_identity_t<typename Format::argument> value) {
-    return detail::as_result(store(aaa_attr_add_v1, type, value, nullptr, 0));
+    return detail::as_result(store<aaa_attr_add>(type, value, nullptr));
   }
   template <std::uint32_t kNumber, class Format>
   result<void> try_add(attribute_type<kNumber, Format> type, std::type_identity_t<typename Format::argument> value,
                        const meta &with, std::uint32_t client_type = 0) {
     const aaa_attr_meta carried = detail::to_c(with);
-    return detail::as_result(store(aaa_attr_add_v1, type, value, &carried, client_type));
+    return detail::as_result(store<aaa_attr_add_v1>(type, value, &carried, client_type));
   }
 
   // Replaces the first attribute of the type, or adds one; a sub-list that it held is freed.
   template <std::uint32_t kNumber, class Format>
   void set(attribute_type<kNumber, Format> type, std::type_identity_t<typename Format::argument> value) {
-    detail::check(store(aaa_attr_add_or_replace_v2, type, value, nullptr, 0), "set", kNumber);
+    detail::check(store<aaa_attr_add_or_replace>(type, value, nullptr), "set", kNumber);
   }
   template <std::uint32_t kNumber, class Format>
   void set(attribute_type<kNumber, Format> type, std::type_identity_t<typename Format::argument> value,
            const meta &with, std::uint32_t client_type = 0) {
     const aaa_attr_meta carried = detail::to_c(with);
-    detail::check(store(aaa_attr_add_or_replace_v2, type, value, &carried, client_type), "set", kNumber);
+    detail::check(store<aaa_attr_add_or_replace_v2>(type, value, &carried, client_type), "set", kNumber);
   }
   template <std::uint32_t kNumber, class Format>
   result<void> try_set(attribute_type<kNumber, Format> type, std::type_identity_t<typename Format::argument> value) {
-    return detail::as_result(store(aaa_attr_add_or_replace_v2, type, value, nullptr, 0));
+    return detail::as_result(store<aaa_attr_add_or_replace>(type, value, nullptr));
   }
 
   // Adds a group with an empty sub-list and returns it to be filled; this list owns it.
@@ -195,16 +195,13 @@ class list_ref : public list_view {
   }
 
  private:
-  using adder = aaa_attr_cerrno(aaa_attr_list_handle, std::uint32_t, const void *, std::uint32_t, const aaa_attr_meta *,
-                                std::uint32_t);
-
-  template <std::uint32_t kNumber, class Format, class Argument>
-  aaa_attr_cerrno store(adder *add_to, attribute_type<kNumber, Format>, const Argument &value,
-                        const aaa_attr_meta *with, std::uint32_t client_type) {
+  // kAdd is one of the C calls of adding; the last arguments are what it takes behind the value.
+  template <auto kAdd, std::uint32_t kNumber, class Format, class Argument, class... Rest>
+  aaa_attr_cerrno store(attribute_type<kNumber, Format>, const Argument &value, Rest... rest) {
     if (value.code() != 0) return value.code();
     if constexpr (std::same_as<Format, format::group>)
       if (value.names(handle_)) return AAA_ATTR_ERR_BAD_ARG;  // a list that owned itself would never be freed
-    const aaa_attr_cerrno code = add_to(handle_, kNumber, value.data(), value.size(), with, client_type);
+    const aaa_attr_cerrno code = kAdd(handle_, kNumber, value.data(), value.size(), rest...);
     if (code == 0) value.added();
     return code;
   }
