@@ -141,7 +141,8 @@ class ListBuilder {
     if (groups_.size() == AAA_ATTR_NESTING_MAX)
       throw BadText("groups nest too deep: no receiver takes more than " + std::to_string(AAA_ATTR_NESTING_MAX));
     attrmgr::list_ref around = innermost();
-    groups_.push_back({line.meta ? around.add_group(type, *line.meta) : around.add_group(type), line_number_});
+    groups_.push_back(
+        {line.meta ? around.add_group_by_number(type, *line.meta) : around.add_group_by_number(type), line_number_});
   }
 
   void close_group(std::string_view text) {

@@ -10,35 +10,34 @@
 namespace generate {
 namespace {
 
-// The class of cpp/formats.hpp that holds the rules of a type's values.
-std::string format_class(const Type &type) {
-  switch (aaa_attr_get_format_from_type(type.number)) {
-    case AAA_ATTR_FMT_STRING:
-      return "text";
-    case AAA_ATTR_FMT_BINARY:
-      return "binary";
-    case AAA_ATTR_FMT_ULONG:
-      return "number";
-    case AAA_ATTR_FMT_ULONGLONG:
-      return "number64";
-    case AAA_ATTR_FMT_GROUPED:
-      return "group";
-    case AAA_ATTR_FMT_ENUM:
-      return "enumeration<" + enumeration_of(type) + ">";
-    case AAA_ATTR_FMT_IPV4:
-      return "ipv4";
-    case AAA_ATTR_FMT_IPV6:
-      return "ipv6";
-    case AAA_ATTR_FMT_ADDRESS:
-      return "ip";
-    case AAA_ATTR_FMT_UTC:
-      return "utc";
-    case AAA_ATTR_FMT_BOOLEAN:
-      return "boolean";
-    default:
-      std::fprintf(stderr, "%s: no class of cpp/formats.hpp has its format\n", quoted(type.name).c_str());
-      std::exit(1);
-  }
+// The formats that types of the dictionary have, by the names of their classes in cpp/formats.hpp. Enum types have a
+// class each.
+struct FormatClass {
+  std::uint32_t format;
+  const char *name;
+};
+constexpr FormatClass kFormatClasses[] = {
+    {AAA_ATTR_FMT_STRING, "text"},        {AAA_ATTR_FMT_BINARY, "binary"}, {AAA_ATTR_FMT_ULONG, "number"},
+    {AAA_ATTR_FMT_ULONGLONG, "number64"}, {AAA_ATTR_FMT_GROUPED, "group"}, {AAA_ATTR_FMT_IPV4, "ipv4"},
+    {AAA_ATTR_FMT_IPV6, "ipv6"},          {AAA_ATTR_FMT_ADDRESS, "ip"},    {AAA_ATTR_FMT_UTC, "utc"},
+    {AAA_ATTR_FMT_BOOLEAN, "boolean"},
+};
+
+bool is_known(std::uint32_t format) {
+  for (const FormatClass &known : kFormatClasses)
+    if (known.format == format) return true;
+  return format == AAA_ATTR_FMT_ENUM;
+}
+
+bool is_of(const Type &type, std::uint32_t format) {
+  return type.number != 0 && aaa_attr_get_format_from_type(type.number) == format;
+}
+
+void put_attributes_of(const FormatClass &format) {
+  std::printf("\nenum %s_attribute : std::uint32_t {\n", format.name);
+  for (const Type &type : types())
+    if (is_of(type, format.format)) std::printf("  %s = %u,\n", type.cpp.c_str(), type.number);
+  std::puts("};");
 }
 
 void put_names(const Type &type) {
@@ -59,9 +58,14 @@ void put_names(const Type &type) {
 }  // namespace
 
 void write_cpp_attributes() {
+  for (const Type &type : types())
+    if (!is_known(aaa_attr_get_format_from_type(type.number))) {
+      std::fprintf(stderr, "%s: no class of cpp/formats.hpp has its format\n", quoted(type.name).c_str());
+      std::exit(1);
+    }
   std::fputs(
-      R"(// attributes.hpp: the attribute types of the dictionary as typed constants. The constant tells what a value of the
-// attribute is made of; formats.hpp has the rules.
+      R"(// attributes.hpp: the attribute types of the dictionary as typed constants. As a number a constant is the type's number;
+// its own type tells the format, and so what a value of the attribute is: formats.hpp has the rules.
 //
 // Written from the dictionary by scripts/dictionary: do not edit. docs/dictionary.md has the same as a table to read.
 #pragma once
@@ -72,14 +76,22 @@ void write_cpp_attributes() {
 // clang-format off
 
 namespace attrmgr::attr {
-
 )",
       stdout);
+  for (const FormatClass &format : kFormatClasses) put_attributes_of(format);
+  std::puts("\n// Each of these holds values of its own enumeration.");
   for (const Type &type : types())
-    if (type.number != 0)
-      std::printf("inline constexpr attribute_type<%u, format::%s> %s;\n", type.number, format_class(type).c_str(),
-                  type.cpp.c_str());
-  std::fputs("\n}  // namespace attrmgr::attr\n\n// clang-format on\n", stdout);
+    if (is_of(type, AAA_ATTR_FMT_ENUM))
+      std::printf("enum %s_attribute : std::uint32_t { %s = %u };\n", type.cpp.c_str(), type.cpp.c_str(), type.number);
+  std::puts("\n}  // namespace attrmgr::attr\n\nnamespace attrmgr::detail {\n");
+  for (const FormatClass &format : kFormatClasses)
+    std::printf("template <> struct format_named_by<attr::%s_attribute> { using type = format::%s; };\n", format.name,
+                format.name);
+  for (const Type &type : types())
+    if (is_of(type, AAA_ATTR_FMT_ENUM))
+      std::printf("template <> struct format_named_by<attr::%s_attribute> { using type = format::enumeration<%s>; };\n",
+                  type.cpp.c_str(), enumeration_of(type).c_str());
+  std::puts("\n}  // namespace attrmgr::detail\n\n// clang-format on");
 }
 
 void write_cpp_value_names() {

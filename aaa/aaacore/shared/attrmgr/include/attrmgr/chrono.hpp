@@ -28,7 +28,7 @@ class format::utc::argument : public detail::own_bytes<std::int64_t> {
 };
 
 template <>
-struct detail::value_of<format::utc> {
+struct detail::value_given_by<format::utc> {
   using type = std::chrono::sys_seconds;
 };
 

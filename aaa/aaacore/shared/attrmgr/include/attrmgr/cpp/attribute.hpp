@@ -143,10 +143,10 @@ class attribute {
 
   // The value of an attribute of this type; nothing for an attribute of another type. Throws attrmgr::error
   // (bad_format) when what is stored has a wrong length.
-  template <std::uint32_t kNumber, class Format>
-  std::optional<typename detail::value_of<Format>::type> value(attribute_type<kNumber, Format>) const {
-    if (type_ != kNumber) return std::nullopt;
-    return value<typename detail::value_of<Format>::type>();
+  template <typed_attribute Attribute>
+  std::optional<detail::value_of<Attribute>> value(Attribute type) const {
+    if (type_ != type) return std::nullopt;
+    return value<detail::value_of<Attribute>>();
   }
 
   // The name of an enumerated value; null where the value has none, and for other formats.

@@ -1,5 +1,5 @@
-// attributes.hpp: the attribute types of the dictionary as typed constants. The constant tells what a value of the
-// attribute is made of; formats.hpp has the rules.
+// attributes.hpp: the attribute types of the dictionary as typed constants. As a number a constant is the type's number;
+// its own type tells the format, and so what a value of the attribute is: formats.hpp has the rules.
 //
 // Written from the dictionary by scripts/dictionary: do not edit. docs/dictionary.md has the same as a table to read.
 #pragma once
@@ -11,629 +11,751 @@
 
 namespace attrmgr::attr {
 
-inline constexpr attribute_type<1, format::enumeration<aaa_disc_cause_ext>> disc_cause_ext;
-inline constexpr attribute_type<2, format::number> ipv4_icmp_unreachable;
-inline constexpr attribute_type<3, format::enumeration<aaa_acct_status_type>> acct_status_type;
-inline constexpr attribute_type<4, format::number> acl;
-inline constexpr attribute_type<5, format::enumeration<aaa_auth_services>> auth_services;
-inline constexpr attribute_type<6, format::text> auto_logon_service;
-inline constexpr attribute_type<7, format::ipv4> addr;
-inline constexpr attribute_type<8, format::ipv4> local_addr;
-inline constexpr attribute_type<9, format::ipv4> local_netmask;
-inline constexpr attribute_type<10, format::ipv4> svc_assigned_ipv4_address;
-inline constexpr attribute_type<11, format::ipv6> addrv6;
-inline constexpr attribute_type<12, format::ipv6> addrv6_ll;
-inline constexpr attribute_type<13, format::text> stateful_ipv6_address_pool;
-inline constexpr attribute_type<14, format::text> ipv6_addr_pool;
-inline constexpr attribute_type<15, format::text> addr_pool;
-inline constexpr attribute_type<16, format::text> subscriber_route;
-inline constexpr attribute_type<17, format::enumeration<aaa_authentic>> authentic;
-inline constexpr attribute_type<18, format::text> autocmd;
-inline constexpr attribute_type<19, format::text> autocmd_ipprompt;
-inline constexpr attribute_type<20, format::enumeration<aaa_authen_status>> authen_status;
-inline constexpr attribute_type<21, format::enumeration<aaa_authen_type>> authen_type;
-inline constexpr attribute_type<22, format::enumeration<aaa_author_type>> author_type;
-inline constexpr attribute_type<23, format::enumeration<aaa_authen_method>> authen_method;
-inline constexpr attribute_type<24, format::enumeration<aaa_authen_strength>> authen_strength;
-inline constexpr attribute_type<25, format::boolean> force_local_chap;
-inline constexpr attribute_type<26, format::binary> challenge;
-inline constexpr attribute_type<27, format::number> id;
-inline constexpr attribute_type<28, format::binary> response;
-inline constexpr attribute_type<29, format::text> nas_connect_info;
-inline constexpr attribute_type<30, format::binary> user_data;
-inline constexpr attribute_type<31, format::binary> server_data;
-inline constexpr attribute_type<32, format::text> clid;
-inline constexpr attribute_type<33, format::text> circuit_id_tag;
-inline constexpr attribute_type<34, format::text> remote_id_tag;
-inline constexpr attribute_type<35, format::number> session_limit;
-inline constexpr attribute_type<36, format::text> client_mac_address;
-inline constexpr attribute_type<37, format::text> client_mac_address_raw;
-inline constexpr attribute_type<38, format::text> client_mac_address_ietf;
-inline constexpr attribute_type<39, format::enumeration<aaa_accounting_type>> accounting_type;
-inline constexpr attribute_type<40, format::number> actual_data_rate_upstream;
-inline constexpr attribute_type<41, format::number> actual_data_rate_downstream;
-inline constexpr attribute_type<42, format::text> chargeable_user_identity;
-inline constexpr attribute_type<43, format::number> minimum_data_rate_upstream;
-inline constexpr attribute_type<44, format::number> minimum_data_rate_downstream;
-inline constexpr attribute_type<45, format::number> attainable_data_rate_upstream;
-inline constexpr attribute_type<46, format::number> attainable_data_rate_downstream;
-inline constexpr attribute_type<47, format::number> maximum_data_rate_upstream;
-inline constexpr attribute_type<48, format::number> maximum_data_rate_downstream;
-inline constexpr attribute_type<49, format::number> minimum_data_rate_upstream_low_power;
-inline constexpr attribute_type<50, format::number> minimum_data_rate_downstream_low_power;
-inline constexpr attribute_type<51, format::number> maximum_interleaving_delay_upstream;
-inline constexpr attribute_type<52, format::number> maximum_interleaving_delay_downstream;
-inline constexpr attribute_type<53, format::number> actual_interleaving_delay_upstream;
-inline constexpr attribute_type<54, format::number> actual_interleaving_delay_downstream;
-inline constexpr attribute_type<55, format::text> cmd;
-inline constexpr attribute_type<56, format::text> cmd_arg;
-inline constexpr attribute_type<57, format::enumeration<aaa_connect_progress>> connect_progress;
-inline constexpr attribute_type<58, format::number> connect_rx_speed;
-inline constexpr attribute_type<59, format::number> connect_tx_speed;
-inline constexpr attribute_type<60, format::number> nas_rx_speed;
-inline constexpr attribute_type<61, format::number> nas_rx_speed_kbps;
-inline constexpr attribute_type<62, format::number> data_service;
-inline constexpr attribute_type<63, format::text> dnis;
-inline constexpr attribute_type<64, format::text> dns_servers;
-inline constexpr attribute_type<65, format::ipv4> primary_dns;
-inline constexpr attribute_type<66, format::ipv4> secondary_dns;
-inline constexpr attribute_type<67, format::text> eap_message;
-inline constexpr attribute_type<68, format::number> assign_client_dns;
-inline constexpr attribute_type<69, format::text> event;
-inline constexpr attribute_type<70, format::text> reason;
-inline constexpr attribute_type<71, format::enumeration<aaa_framed_protocol>> framed_protocol;
-inline constexpr attribute_type<72, format::number> framed_mtu;
-inline constexpr attribute_type<73, format::number> ipv4_mtu;
-inline constexpr attribute_type<74, format::number> idletimeout;
-inline constexpr attribute_type<75, format::number> idlethreshold;
-inline constexpr attribute_type<76, format::text> idle_timeout_direction;
-inline constexpr attribute_type<77, format::text> call_inacl;
-inline constexpr attribute_type<78, format::text> inacl;
-inline constexpr attribute_type<79, format::text> ipv6_inacl;
-inline constexpr attribute_type<80, format::number> input_giga_words;
-inline constexpr attribute_type<81, format::number> bytes_in;
-inline constexpr attribute_type<82, format::number> paks_in;
-inline constexpr attribute_type<83, format::binary> idmgr_data;
-inline constexpr attribute_type<84, format::binary> idmgr_svc_key;
-inline constexpr attribute_type<85, format::text> session_guid;
-inline constexpr attribute_type<86, format::text> nas_identifier;
-inline constexpr attribute_type<87, format::text> disconnect_text;
-inline constexpr attribute_type<88, format::number> logical_if_index;
-inline constexpr attribute_type<89, format::boolean> termination_action;
-inline constexpr attribute_type<90, format::number> aaa_unique_id;
-inline constexpr attribute_type<91, format::text> interface;
-inline constexpr attribute_type<92, format::text> interface_name;
-inline constexpr attribute_type<93, format::text> interface_config;
-inline constexpr attribute_type<94, format::text> parent_interface;
-inline constexpr attribute_type<95, format::enumeration<aaa_parent_interface_type>> parent_interface_type;
-inline constexpr attribute_type<96, format::enumeration<aaa_port_type>> port_type;
-inline constexpr attribute_type<97, format::number> acct_interval;
-inline constexpr attribute_type<98, format::text> l2tp_rx_speed;
-inline constexpr attribute_type<99, format::text> l2tp_tx_speed;
-inline constexpr attribute_type<100, format::text> ip_addresses;
-inline constexpr attribute_type<101, format::text> ip_address_limits;
-inline constexpr attribute_type<102, format::number> l2tp_hello_interval;
-inline constexpr attribute_type<103, format::number> l2tp_cm_local_window_size;
-inline constexpr attribute_type<104, format::number> l2tp_nosession_timeout;
-inline constexpr attribute_type<105, format::number> l2tp_cm_retransmit_retries;
-inline constexpr attribute_type<106, format::number> l2tp_cm_min_timeout;
-inline constexpr attribute_type<107, format::boolean> key_exchange;
-inline constexpr attribute_type<108, format::text> map_class;
-inline constexpr attribute_type<109, format::enumeration<aaa_error_cause>> error_cause;
-inline constexpr attribute_type<110, format::text> reply_message;
-inline constexpr attribute_type<111, format::binary> message_authenticator;
-inline constexpr attribute_type<112, format::number> mlp_links_current;
-inline constexpr attribute_type<113, format::number> mlp_links_max;
-inline constexpr attribute_type<114, format::text> mlp_sess_id;
-inline constexpr attribute_type<115, format::text> redirect_vrf;
-inline constexpr attribute_type<116, format::text> dhcp_class;
-inline constexpr attribute_type<117, format::text> dhcpv6_class;
-inline constexpr attribute_type<118, format::text> dhcp_vendor_class;
-inline constexpr attribute_type<119, format::text> dhcp_pool;
-inline constexpr attribute_type<120, format::boolean> config_source_dpm;
-inline constexpr attribute_type<121, format::boolean> mcast_client;
-inline constexpr attribute_type<122, format::number> mcast_rlimit;
-inline constexpr attribute_type<123, format::number> idle_threshold;
-inline constexpr attribute_type<124, format::number> load_threshold;
-inline constexpr attribute_type<125, format::number> max_links;
-inline constexpr attribute_type<126, format::number> min_links;
-inline constexpr attribute_type<127, format::number> ppp_multilink;
-inline constexpr attribute_type<128, format::text> nas_description;
-inline constexpr attribute_type<129, format::ipv4> nbns_primary_server;
-inline constexpr attribute_type<130, format::ipv4> nbns_secondary_server;
-inline constexpr attribute_type<131, format::number> num_sessions;
-inline constexpr attribute_type<132, format::ipv4> netmask;
-inline constexpr attribute_type<133, format::binary> old_password;
-inline constexpr attribute_type<134, format::boolean> old_prompts;
-inline constexpr attribute_type<135, format::text> call_outacl;
-inline constexpr attribute_type<136, format::number> output_giga_words;
-inline constexpr attribute_type<137, format::text> outacl;
-inline constexpr attribute_type<138, format::number> bytes_out;
-inline constexpr attribute_type<139, format::text> ipv6_outacl;
-inline constexpr attribute_type<140, format::number> paks_out;
-inline constexpr attribute_type<141, format::binary> port_bndl_hkey;
-inline constexpr attribute_type<142, format::binary> nativeip_vrf;
-inline constexpr attribute_type<143, format::binary> domainip_vrf;
-inline constexpr attribute_type<144, format::text> system_script;
-inline constexpr attribute_type<145, format::binary> password;
-inline constexpr attribute_type<146, format::text> pool_def;
-inline constexpr attribute_type<147, format::ipv4> pool_addr;
-inline constexpr attribute_type<148, format::ipv4> pool_mask;
-inline constexpr attribute_type<149, format::number> pool_timeout;
-inline constexpr attribute_type<150, format::number> pre_bytes_in;
-inline constexpr attribute_type<151, format::number> pre_bytes_out;
-inline constexpr attribute_type<152, format::number> pre_paks_in;
-inline constexpr attribute_type<153, format::number> pre_paks_out;
-inline constexpr attribute_type<154, format::number> pre_session_time;
-inline constexpr attribute_type<155, format::number> feature_acct_id;
-inline constexpr attribute_type<156, format::number> service_id;
-inline constexpr attribute_type<157, format::text> feature_instance_name;
-inline constexpr attribute_type<158, format::number> feature_acct_bitmask;
-inline constexpr attribute_type<159, format::number> feature_acct_interval;
-inline constexpr attribute_type<160, format::text> feature_acct_method;
-inline constexpr attribute_type<161, format::number> priv_lvl;
-inline constexpr attribute_type<162, format::text> cli_view_name;
-inline constexpr attribute_type<163, format::enumeration<aaa_protocol>> protocol;
-inline constexpr attribute_type<164, format::text> proxyacl;
-inline constexpr attribute_type<165, format::number> auth_required;
-inline constexpr attribute_type<166, format::text> auth_type;
-inline constexpr attribute_type<167, format::enumeration<aaa_service_type>> service_type;
-inline constexpr attribute_type<168, format::text> redirected_station;
-inline constexpr attribute_type<169, format::text> negotiated_route;
-inline constexpr attribute_type<170, format::text> ipv6_route;
-inline constexpr attribute_type<171, format::text> route;
-inline constexpr attribute_type<172, format::binary> state;
-inline constexpr attribute_type<173, format::binary> class_;
-inline constexpr attribute_type<174, format::enumeration<aaa_send_auth>> send_auth;
-inline constexpr attribute_type<175, format::binary> send_secret;
-inline constexpr attribute_type<176, format::enumeration<aaa_service>> service;
-inline constexpr attribute_type<177, format::text> service_name;
-inline constexpr attribute_type<178, format::text> parent_session_id;
-inline constexpr attribute_type<179, format::text> string_session_id;
-inline constexpr attribute_type<180, format::number> session_id;
-inline constexpr attribute_type<181, format::number> acct_record_number;
-inline constexpr attribute_type<182, format::enumeration<aaa_accounting_record_type>> accounting_record_type;
-inline constexpr attribute_type<183, format::number> subscriber_label;
-inline constexpr attribute_type<184, format::number> elapsed_time;
-inline constexpr attribute_type<185, format::ipv4> source_ip;
-inline constexpr attribute_type<186, format::utc> start_time;
-inline constexpr attribute_type<187, format::text> sub_qos_policy_in;
-inline constexpr attribute_type<188, format::text> sub_pbr_policy_in;
-inline constexpr attribute_type<189, format::text> sub_qos_policy_out;
-inline constexpr attribute_type<190, format::text> acct_policy_map;
-inline constexpr attribute_type<191, format::text> acct_policy_in;
-inline constexpr attribute_type<192, format::text> acct_policy_out;
-inline constexpr attribute_type<193, format::enumeration<aaa_disc_cause>> disc_cause;
-inline constexpr attribute_type<194, format::number> session_timeout;
-inline constexpr attribute_type<195, format::number> event_timestamp;
-inline constexpr attribute_type<196, format::number> user_maxlinks;
-inline constexpr attribute_type<197, format::text> username;
-inline constexpr attribute_type<198, format::text> keepalive;
-inline constexpr attribute_type<199, format::number> nas_tx_speed;
-inline constexpr attribute_type<200, format::number> nas_tx_speed_kbps;
-inline constexpr attribute_type<201, format::enumeration<aaa_login_service>> login_service;
-inline constexpr attribute_type<202, format::text> zel_account_info;
-inline constexpr attribute_type<203, format::text> zel_service_info;
-inline constexpr attribute_type<204, format::binary> zel_command_code;
-inline constexpr attribute_type<205, format::text> zel_control_info;
-inline constexpr attribute_type<206, format::number> login_tcp_port;
-inline constexpr attribute_type<207, format::ipv4> login_ip_addr_host;
-inline constexpr attribute_type<208, format::text> login_ipv6_addr_host;
-inline constexpr attribute_type<209, format::text> login_ip_host;
-inline constexpr attribute_type<210, format::ipv4> nas_ip_address;
-inline constexpr attribute_type<211, format::ipv4> framed_ipx_network;
-inline constexpr attribute_type<212, format::number> acct_delay_time;
-inline constexpr attribute_type<213, format::binary> ms_chap_error;
-inline constexpr attribute_type<214, format::binary> ms_chap_nt_enc_pw1;
-inline constexpr attribute_type<215, format::binary> ms_chap_nt_enc_pw2;
-inline constexpr attribute_type<216, format::binary> ms_chap_nt_enc_pw3;
-inline constexpr attribute_type<217, format::enumeration<aaa_ms_mppe_enc_policy>> ms_mppe_enc_policy;
-inline constexpr attribute_type<218, format::number> ms_mppe_enc_type;
-inline constexpr attribute_type<219, format::text> ip_vrf;
-inline constexpr attribute_type<220, format::text> ip_addr;
-inline constexpr attribute_type<221, format::text> ipv4_unnumbered;
-inline constexpr attribute_type<222, format::text> ip_unnumbered;
-inline constexpr attribute_type<223, format::binary> interface_id;
-inline constexpr attribute_type<224, format::binary> prefix;
-inline constexpr attribute_type<225, format::number> vrf_id;
-inline constexpr attribute_type<226, format::text> traffic_class;
-inline constexpr attribute_type<227, format::text> accounting_list;
-inline constexpr attribute_type<228, format::number> dual_stack_delay;
-inline constexpr attribute_type<229, format::text> service_acct_list;
-inline constexpr attribute_type<230, format::number> time_quota;
-inline constexpr attribute_type<231, format::number> volume_quota;
-inline constexpr attribute_type<232, format::number> giga_words_volume_quota;
-inline constexpr attribute_type<233, format::number> tariff_time;
-inline constexpr attribute_type<234, format::number> ptv_quota;
-inline constexpr attribute_type<235, format::boolean> is_session_idle;
-inline constexpr attribute_type<236, format::number> prepaid_timeout;
-inline constexpr attribute_type<237, format::enumeration<aaa_app_result_code>> app_result_code;
-inline constexpr attribute_type<238, format::text> command;
-inline constexpr attribute_type<239, format::text> sd;
-inline constexpr attribute_type<240, format::text> sa;
-inline constexpr attribute_type<241, format::text> sm;
-inline constexpr attribute_type<242, format::text> service_parameters;
-inline constexpr attribute_type<243, format::text> service_info;
-inline constexpr attribute_type<244, format::text> method_list;
-inline constexpr attribute_type<245, format::enumeration<aaa_identifier_type>> identifier_type;
-inline constexpr attribute_type<246, format::enumeration<aaa_template_type>> template_type;
-inline constexpr attribute_type<247, format::text> template_name;
-inline constexpr attribute_type<248, format::text> policymap_name;
-inline constexpr attribute_type<249, format::text> timer_name;
-inline constexpr attribute_type<250, format::number> timer_value;
-inline constexpr attribute_type<251, format::enumeration<aaa_nas_port_sub_id_type>> nas_port_sub_id_type;
-inline constexpr attribute_type<252, format::enumeration<aaa_nas_port_type_id_type>> nas_port_type_id_type;
-inline constexpr attribute_type<253, format::enumeration<aaa_media_type>> media_type;
-inline constexpr attribute_type<254, format::enumeration<aaa_protocol_type>> protocol_type;
-inline constexpr attribute_type<255, format::text> domain;
-inline constexpr attribute_type<256, format::number> nas_port;
-inline constexpr attribute_type<257, format::text> tunnel_name;
-inline constexpr attribute_type<258, format::text> dhcp_client_id;
-inline constexpr attribute_type<259, format::number> if_handle;
-inline constexpr attribute_type<260, format::number> parent_if_handle;
-inline constexpr attribute_type<261, format::text> formatted_clid;
-inline constexpr attribute_type<262, format::number> port_limit;
-inline constexpr attribute_type<263, format::enumeration<aaa_tunnel_type>> tunnel_type;
-inline constexpr attribute_type<264, format::enumeration<aaa_tunnel_medium_type>> tunnel_medium_type;
-inline constexpr attribute_type<265, format::text> tunnel_client_endpoint;
-inline constexpr attribute_type<266, format::text> tunnel_server_endpoint;
-inline constexpr attribute_type<267, format::text> tunnel_connection_id;
-inline constexpr attribute_type<268, format::binary> tunnel_password;
-inline constexpr attribute_type<269, format::text> tunnel_private_group_id;
-inline constexpr attribute_type<270, format::text> vpdn_group;
-inline constexpr attribute_type<271, format::number> tunnel_preference;
-inline constexpr attribute_type<272, format::number> tunnel_packets_lost;
-inline constexpr attribute_type<273, format::text> tunnel_id;
-inline constexpr attribute_type<274, format::text> gw_name;
-inline constexpr attribute_type<275, format::binary> l2tp_tunnel_password;
-inline constexpr attribute_type<276, format::text> l2tp_clid_mask_method;
-inline constexpr attribute_type<277, format::text> qos_policy_in;
-inline constexpr attribute_type<278, format::text> qos_policy_out;
-inline constexpr attribute_type<279, format::text> l2tp_tunnel_authen;
-inline constexpr attribute_type<280, format::text> tunnel_tos_reflect;
-inline constexpr attribute_type<281, format::text> vpn_id;
-inline constexpr attribute_type<282, format::text> vpn_vrf;
-inline constexpr attribute_type<283, format::number> tunnel_tos_setting;
-inline constexpr attribute_type<284, format::text> vpdn_template;
-inline constexpr attribute_type<285, format::binary> access_loop_encapsulation;
-inline constexpr attribute_type<286, format::boolean> interworking_functionality_tag;
-inline constexpr attribute_type<287, format::text> acct_multi_session_id;
-inline constexpr attribute_type<288, format::ipv4> md_ip_addr;
-inline constexpr attribute_type<289, format::ipv6> md_ipv6_addr;
-inline constexpr attribute_type<290, format::number> md_port;
-inline constexpr attribute_type<291, format::number> md_dscp;
-inline constexpr attribute_type<292, format::number> li_action;
-inline constexpr attribute_type<293, format::binary> intercept_id;
-inline constexpr attribute_type<294, format::number> physical_shelf;
-inline constexpr attribute_type<295, format::number> physical_slot;
-inline constexpr attribute_type<296, format::number> physical_subslot;
-inline constexpr attribute_type<297, format::number> physical_adapter;
-inline constexpr attribute_type<298, format::number> physical_chassis;
-inline constexpr attribute_type<299, format::number> physical_port;
-inline constexpr attribute_type<300, format::number> physical_channel;
-inline constexpr attribute_type<301, format::number> inner_vlan_id;
-inline constexpr attribute_type<302, format::number> outer_vlan_id;
-inline constexpr attribute_type<303, format::number> vci;
-inline constexpr attribute_type<304, format::number> vpi;
-inline constexpr attribute_type<305, format::text> format_name;
-inline constexpr attribute_type<306, format::number> strict_rpf;
-inline constexpr attribute_type<307, format::number> pppoe_session_id;
-inline constexpr attribute_type<308, format::number> igmp_query_interval;
-inline constexpr attribute_type<309, format::text> igmp_track;
-inline constexpr attribute_type<310, format::number> igmp_query_max_response_time;
-inline constexpr attribute_type<311, format::text> igmp_access_group;
-inline constexpr attribute_type<312, format::number> igmp_max_groups;
-inline constexpr attribute_type<313, format::number> igmp_version;
-inline constexpr attribute_type<314, format::enumeration<aaa_ipv4_multicast>> ipv4_multicast;
-inline constexpr attribute_type<315, format::number> dsl_line_info_forwarding;
-inline constexpr attribute_type<316, format::text> disconnect_cause;
-inline constexpr attribute_type<317, format::binary> preferred_server_ip_address;
-inline constexpr attribute_type<318, format::number> preferred_server_authentication_port;
-inline constexpr attribute_type<319, format::number> preferred_server_accounting_port;
-inline constexpr attribute_type<320, format::boolean> ipv4_session_state;
-inline constexpr attribute_type<321, format::boolean> ipv6_session_state;
-inline constexpr attribute_type<322, format::number> acct_input_gigawords_ipv4;
-inline constexpr attribute_type<323, format::number> acct_input_octets_ipv4;
-inline constexpr attribute_type<324, format::number> acct_input_packets_ipv4;
-inline constexpr attribute_type<325, format::number> acct_output_gigawords_ipv4;
-inline constexpr attribute_type<326, format::number> acct_output_octets_ipv4;
-inline constexpr attribute_type<327, format::number> acct_output_packets_ipv4;
-inline constexpr attribute_type<328, format::number> acct_input_gigawords_ipv6;
-inline constexpr attribute_type<329, format::number> acct_input_octets_ipv6;
-inline constexpr attribute_type<330, format::number> acct_input_packets_ipv6;
-inline constexpr attribute_type<331, format::number> acct_output_gigawords_ipv6;
-inline constexpr attribute_type<332, format::number> acct_output_octets_ipv6;
-inline constexpr attribute_type<333, format::number> acct_output_packets_ipv6;
-inline constexpr attribute_type<334, format::text> nas_ipv6_address;
-inline constexpr attribute_type<335, format::number> prefix_len;
-inline constexpr attribute_type<336, format::binary> delegated_prefix;
-inline constexpr attribute_type<337, format::text> delegated_ipv6_pool;
-inline constexpr attribute_type<338, format::text> ipv6_dns_servers_addr;
-inline constexpr attribute_type<339, format::number> ipv6_enable;
-inline constexpr attribute_type<340, format::number> ipv6_mtu;
-inline constexpr attribute_type<341, format::number> ipv6_strict_rpf;
-inline constexpr attribute_type<342, format::number> ipv6_unreachable;
-inline constexpr attribute_type<343, format::number> dsl_line_state;
-inline constexpr attribute_type<344, format::number> dsl_type;
-inline constexpr attribute_type<345, format::enumeration<aaa_acct_backoff_status>> acct_backoff_status;
-inline constexpr attribute_type<346, format::number> or_;
-inline constexpr attribute_type<347, format::text> dhcpv6_interface_id;
-inline constexpr attribute_type<348, format::enumeration<aaa_torvo_mpc_protocol_interface>> torvo_mpc_protocol_interface;
-inline constexpr attribute_type<349, format::boolean> author_status;
-inline constexpr attribute_type<350, format::text> torvo_mobile_node_identifier;
-inline constexpr attribute_type<351, format::enumeration<aaa_torvo_mn_service>> torvo_mn_service;
-inline constexpr attribute_type<352, format::boolean> torvo_multihoming_support;
-inline constexpr attribute_type<353, format::text> torvo_service_selection;
-inline constexpr attribute_type<354, format::text> home_lma;
-inline constexpr attribute_type<355, format::ipv6> torvo_home_lma_ipv6_address;
-inline constexpr attribute_type<356, format::ipv4> torvo_home_lma_ipv4_address;
-inline constexpr attribute_type<357, format::number> mn_max_hnp;
-inline constexpr attribute_type<358, format::number> torvo_uplink_gre_key;
-inline constexpr attribute_type<359, format::number> torvo_downlink_gre_key;
-inline constexpr attribute_type<360, format::text> torvo_msisdn;
-inline constexpr attribute_type<361, format::text> imsi;
-inline constexpr attribute_type<362, format::text> charging_id;
-inline constexpr attribute_type<363, format::enumeration<aaa_pdp_type>> pdp_type;
-inline constexpr attribute_type<364, format::ipv4> charging_gw_addr;
-inline constexpr attribute_type<365, format::text> qos_profile;
-inline constexpr attribute_type<366, format::ipv4> sgsn_addrss;
-inline constexpr attribute_type<367, format::ipv4> ggsn_address;
-inline constexpr attribute_type<368, format::text> imsi_mcc_mnc;
-inline constexpr attribute_type<369, format::text> ggsn_mcc_mnc;
-inline constexpr attribute_type<370, format::text> nsapi;
-inline constexpr attribute_type<371, format::binary> sess_stop_ind;
-inline constexpr attribute_type<372, format::text> selection_mode;
-inline constexpr attribute_type<373, format::text> charging_characteristics;
-inline constexpr attribute_type<374, format::text> sgsn_mcc_mnc;
-inline constexpr attribute_type<375, format::binary> radio_access_technology_type;
-inline constexpr attribute_type<376, format::ipv4> default_ipv4_gateway;
-inline constexpr attribute_type<377, format::text> default_gw_mac;
-inline constexpr attribute_type<378, format::ipv4> dhcp_server;
-inline constexpr attribute_type<379, format::number64> tunnel_if_handle;
-inline constexpr attribute_type<380, format::binary> home_interface_id;
-inline constexpr attribute_type<381, format::enumeration<aaa_pmip6_encap_type>> pmip6_encap_type;
-inline constexpr attribute_type<382, format::ipv4> mobile_ipv4_netmask;
-inline constexpr attribute_type<383, format::ipv4> mobile_ipv4_addr;
-inline constexpr attribute_type<384, format::binary> home_lma_ipv6_address;
-inline constexpr attribute_type<385, format::ipv4> home_lma_ipv4_address;
-inline constexpr attribute_type<386, format::binary> home_hl_prefix;
-inline constexpr attribute_type<387, format::text> domain_name;
-inline constexpr attribute_type<388, format::number> lease_duration;
-inline constexpr attribute_type<389, format::number> mobility_core_mtu;
-inline constexpr attribute_type<390, format::text> torvo_apn_vrf_id;
-inline constexpr attribute_type<391, format::text> torvo_access_vrf_id;
-inline constexpr attribute_type<392, format::text> echo_string_1;
-inline constexpr attribute_type<393, format::text> echo_string_2;
-inline constexpr attribute_type<394, format::text> echo_string_3;
-inline constexpr attribute_type<395, format::text> echo_string_4;
-inline constexpr attribute_type<396, format::ipv4> ipv4_default_gateway;
-inline constexpr attribute_type<397, format::text> dhcp_user_class;
-inline constexpr attribute_type<398, format::boolean> mob_sess_del_in_progress;
-inline constexpr attribute_type<399, format::boolean> mob_sess_create_in_progress;
-inline constexpr attribute_type<400, format::boolean> static_session;
-inline constexpr attribute_type<401, format::text> dhcp_client_id_spl;
-inline constexpr attribute_type<402, format::number> template_if_handle;
-inline constexpr attribute_type<403, format::text> credit_control_direction;
-inline constexpr attribute_type<404, format::enumeration<aaa_device_role>> device_role;
-inline constexpr attribute_type<405, format::number> srg_group_id;
-inline constexpr attribute_type<406, format::text> master_nas_identifier;
-inline constexpr attribute_type<407, format::number> master_nas_port;
-inline constexpr attribute_type<408, format::number> master_session_id;
-inline constexpr attribute_type<409, format::text> customer_name;
-inline constexpr attribute_type<410, format::ipv4> home_ipv4_hoa;
-inline constexpr attribute_type<411, format::text> client_username;
-inline constexpr attribute_type<412, format::text> formatted_username;
-inline constexpr attribute_type<413, format::number> member_hash;
-inline constexpr attribute_type<414, format::number> start_ra_on_ipv6_enable;
-inline constexpr attribute_type<415, format::ipv6> preferred_server_ipv6_address;
-inline constexpr attribute_type<416, format::text> delegated_ipv4_prefix;
-inline constexpr attribute_type<417, format::ipv4> torvo_mag_coa_up_ipv4_address;
-inline constexpr attribute_type<418, format::ipv6> torvo_mag_coa_up_ipv6_address;
-inline constexpr attribute_type<419, format::text> dhcpv4_option;
-inline constexpr attribute_type<420, format::text> google_circuit_id_tag;
-inline constexpr attribute_type<421, format::text> google_remote_id_tag;
-inline constexpr attribute_type<422, format::text> sub_qos_group_identifier;
-inline constexpr attribute_type<423, format::text> timer_absolute;
-inline constexpr attribute_type<424, format::text> dhcp_mode_class;
-inline constexpr attribute_type<425, format::number> vendor_id;
-inline constexpr attribute_type<426, format::number> ascend_connect_progress;
-inline constexpr attribute_type<427, format::number> acct_unique_session_id;
-inline constexpr attribute_type<428, format::number> firmware_revision;
-inline constexpr attribute_type<429, format::ip> host_ip_address;
-inline constexpr attribute_type<430, format::number> supported_external_vendors;
-inline constexpr attribute_type<431, format::text> product_name;
-inline constexpr attribute_type<432, format::text> route_string;
-inline constexpr attribute_type<433, format::enumeration<aaa_disconnect_cause_enum>> disconnect_cause_enum;
-inline constexpr attribute_type<434, format::enumeration<aaa_re_auth_request_type>> re_auth_request_type;
-inline constexpr attribute_type<435, format::text> origin_host_information;
-inline constexpr attribute_type<436, format::text> origin_realm_information;
-inline constexpr attribute_type<437, format::text> destination_host_information;
-inline constexpr attribute_type<438, format::text> destination_realm_information;
-inline constexpr attribute_type<439, format::number> auth_application_id;
-inline constexpr attribute_type<440, format::number> acct_application_id;
-inline constexpr attribute_type<441, format::enumeration<aaa_security_supported>> security_supported;
-inline constexpr attribute_type<442, format::text> error_message;
-inline constexpr attribute_type<443, format::text> error_reporting_host;
-inline constexpr attribute_type<444, format::group> failed_avp;
-inline constexpr attribute_type<445, format::group> experimental_result_avp;
-inline constexpr attribute_type<446, format::number> experimental_result_code;
-inline constexpr attribute_type<447, format::number> result_code;
-inline constexpr attribute_type<448, format::number> session_binding;
-inline constexpr attribute_type<449, format::enumeration<aaa_session_failover>> session_failover;
-inline constexpr attribute_type<450, format::enumeration<aaa_termination_cause>> termination_cause;
-inline constexpr attribute_type<451, format::text> session_id_string;
-inline constexpr attribute_type<452, format::number> correlation_id;
-inline constexpr attribute_type<453, format::number64> input_octets;
-inline constexpr attribute_type<454, format::number64> output_octets;
-inline constexpr attribute_type<455, format::number64> input_octets_2;
-inline constexpr attribute_type<456, format::number64> output_octets_2;
-inline constexpr attribute_type<457, format::number64> input_packets;
-inline constexpr attribute_type<458, format::number64> output_packets;
-inline constexpr attribute_type<459, format::group> prepaid_money_units;
-inline constexpr attribute_type<460, format::number> prepaid_request_number;
-inline constexpr attribute_type<461, format::enumeration<aaa_prepaid_request_type>> prepaid_request_type;
-inline constexpr attribute_type<462, format::number64> prepaid_service_specific_units;
-inline constexpr attribute_type<463, format::enumeration<aaa_prepaid_session_failover>> prepaid_session_failover;
-inline constexpr attribute_type<464, format::number64> prepaid_subsession_id;
-inline constexpr attribute_type<465, format::number> prepaid_time_units;
-inline constexpr attribute_type<466, format::number64> prepaid_volume_granted_requested_or_used;
-inline constexpr attribute_type<467, format::enumeration<aaa_prepaid_units>> prepaid_units;
-inline constexpr attribute_type<468, format::group> prepaid_service_cost;
-inline constexpr attribute_type<469, format::enumeration<aaa_prepaid_failure_handling>> prepaid_failure_handling;
-inline constexpr attribute_type<470, format::enumeration<aaa_prepaid_message_failure_handling>> prepaid_message_failure_handling;
-inline constexpr attribute_type<471, format::group> prepaid_final_unit;
-inline constexpr attribute_type<472, format::enumeration<aaa_prepaid_final_unit_action>> prepaid_final_unit_action;
-inline constexpr attribute_type<473, format::group> prepaid_granted_unit;
-inline constexpr attribute_type<474, format::number> prepaid_assigned_pool;
-inline constexpr attribute_type<475, format::group> prepaid_assigned_pool_grouped;
-inline constexpr attribute_type<476, format::group> prepaid_info_for_multiple_services;
-inline constexpr attribute_type<477, format::enumeration<aaa_prepaid_multiple_service_indicator>> prepaid_multiple_service_indicator;
-inline constexpr attribute_type<478, format::number> rating_group;
-inline constexpr attribute_type<479, format::group> requested_service_unit;
-inline constexpr attribute_type<480, format::text> restricted_services;
-inline constexpr attribute_type<481, format::number> service_identifier;
-inline constexpr attribute_type<482, format::group> service_parameter_info;
-inline constexpr attribute_type<483, format::number> service_parameter_type;
-inline constexpr attribute_type<484, format::text> service_parameter_value;
-inline constexpr attribute_type<485, format::group> subscription_id;
-inline constexpr attribute_type<486, format::enumeration<aaa_subscription_id_type>> subscription_id_type;
-inline constexpr attribute_type<487, format::text> subscription_id_data;
-inline constexpr attribute_type<488, format::enumeration<aaa_tariff_change_usage>> tariff_change_usage;
-inline constexpr attribute_type<489, format::utc> tariff_time_change;
-inline constexpr attribute_type<490, format::group> unit_value;
-inline constexpr attribute_type<491, format::group> exponent_value;
-inline constexpr attribute_type<492, format::group> used_service_units;
-inline constexpr attribute_type<493, format::group> user_equipment_info;
-inline constexpr attribute_type<494, format::enumeration<aaa_user_equipment_info_type>> user_equipment_info_type;
-inline constexpr attribute_type<495, format::text> user_equipment_value_string;
-inline constexpr attribute_type<496, format::number64> prepaid_value_digits;
-inline constexpr attribute_type<497, format::number> prepaid_service_valid_time;
-inline constexpr attribute_type<498, format::text> service_context_id;
-inline constexpr attribute_type<499, format::number> prepaid_quota_consumption_time;
-inline constexpr attribute_type<500, format::number> prepaid_quota_holding_time;
-inline constexpr attribute_type<501, format::number> prepaid_quota_threshold_time;
-inline constexpr attribute_type<502, format::enumeration<aaa_qt_reporting_reason>> qt_reporting_reason;
-inline constexpr attribute_type<503, format::number> prepaid_quota_volume_threshold;
-inline constexpr attribute_type<504, format::group> vendor_specific_application_id;
-inline constexpr attribute_type<505, format::text> agw_ipv4_address;
-inline constexpr attribute_type<506, format::enumeration<aaa_event_trigger>> event_trigger;
-inline constexpr attribute_type<507, format::number> origin_state_id;
-inline constexpr attribute_type<508, format::group> ty_ancid;
-inline constexpr attribute_type<509, format::text> ancid_value;
-inline constexpr attribute_type<510, format::group> charging_info;
-inline constexpr attribute_type<511, format::text> pri_charging_collect_func_name;
-inline constexpr attribute_type<512, format::text> sec_charging_collect_func_name;
-inline constexpr attribute_type<513, format::group> authorized_qos;
-inline constexpr attribute_type<514, format::enumeration<aaa_qos_class>> qos_class;
-inline constexpr attribute_type<515, format::number> max_req_bandw_dl;
-inline constexpr attribute_type<516, format::number> max_req_bandw_ul;
-inline constexpr attribute_type<517, format::group> charging_rule_install;
-inline constexpr attribute_type<518, format::group> charging_rule_remove;
-inline constexpr attribute_type<519, format::group> charging_rule_def;
-inline constexpr attribute_type<520, format::text> charging_rule_base_name;
-inline constexpr attribute_type<521, format::text> charging_rule_name;
-inline constexpr attribute_type<522, format::group> charging_rule_report;
-inline constexpr attribute_type<523, format::text> flow_description;
-inline constexpr attribute_type<524, format::enumeration<aaa_flow_status>> flow_status;
-inline constexpr attribute_type<525, format::enumeration<aaa_pcc_rule_status>> pcc_rule_status;
-inline constexpr attribute_type<526, format::enumeration<aaa_metering_method>> metering_method;
-inline constexpr attribute_type<527, format::enumeration<aaa_offline>> offline;
-inline constexpr attribute_type<528, format::enumeration<aaa_online>> online;
-inline constexpr attribute_type<529, format::number> precedence;
-inline constexpr attribute_type<530, format::enumeration<aaa_reporting_level>> reporting_level;
-inline constexpr attribute_type<531, format::binary> af_charging_id;
-inline constexpr attribute_type<532, format::group> acn_physical_access_id;
-inline constexpr attribute_type<533, format::binary> acn_physical_access_id_value;
-inline constexpr attribute_type<534, format::binary> acn_physical_access_id_realm;
-inline constexpr attribute_type<535, format::group> bm_information;
-inline constexpr attribute_type<536, format::ip> bm_address;
-inline constexpr attribute_type<537, format::enumeration<aaa_bm_type>> bm_type;
-inline constexpr attribute_type<538, format::text> hoa_session_id;
-inline constexpr attribute_type<539, format::text> voa_session_id;
-inline constexpr attribute_type<540, format::ip> mip_mobile_node_address;
-inline constexpr attribute_type<541, format::ip> ipgw_address;
-inline constexpr attribute_type<542, format::enumeration<aaa_accounting_real_time_required>> accounting_real_time_required;
-inline constexpr attribute_type<543, format::enumeration<aaa_auth_request_type>> auth_request_type;
-inline constexpr attribute_type<544, format::enumeration<aaa_origin_aaa_protocol>> origin_aaa_protocol;
-inline constexpr attribute_type<545, format::number> authorization_lifetime;
-inline constexpr attribute_type<546, format::number> auth_grace_period;
-inline constexpr attribute_type<547, format::enumeration<aaa_auth_session_state>> auth_session_state;
-inline constexpr attribute_type<548, format::number> gx_application_id;
-inline constexpr attribute_type<549, format::enumeration<aaa_session_release_cause>> session_release_cause;
-inline constexpr attribute_type<550, format::text> acct_trigger_cause;
-inline constexpr attribute_type<551, format::enumeration<aaa_ip_can_type>> ip_can_type;
-inline constexpr attribute_type<552, format::enumeration<aaa_rat_type>> rat_type;
-inline constexpr attribute_type<553, format::text> client_mac_address_custom1;
-inline constexpr attribute_type<554, format::text> sg_name;
-inline constexpr attribute_type<555, format::ipv4> last_used_v4_server_ip;
-inline constexpr attribute_type<556, format::ipv6> last_used_server_ip_v6_address;
-inline constexpr attribute_type<557, format::number> last_used_server_authen_port;
-inline constexpr attribute_type<558, format::number> software_idb;
-inline constexpr attribute_type<559, format::binary> eap_msk;
-inline constexpr attribute_type<560, format::binary> eap_emsk;
-inline constexpr attribute_type<561, format::binary> clid_mac_addr;
-inline constexpr attribute_type<562, format::text> eap_session_id;
-inline constexpr attribute_type<563, format::binary> ms_mppe_send_key;
-inline constexpr attribute_type<564, format::binary> ms_mppe_recv_key;
-inline constexpr attribute_type<565, format::text> framed_ipv6_address;
-inline constexpr attribute_type<566, format::text> parsed_user_name;
-inline constexpr attribute_type<567, format::group> supported_features;
-inline constexpr attribute_type<568, format::number> feature_list_id;
-inline constexpr attribute_type<569, format::number> feature_list;
-inline constexpr attribute_type<570, format::text> monitoring_key;
-inline constexpr attribute_type<571, format::group> usage_monitoring_information;
-inline constexpr attribute_type<572, format::enumeration<aaa_usage_monitoring_level>> usage_monitoring_level;
-inline constexpr attribute_type<573, format::enumeration<aaa_bearer_usage>> bearer_usage;
-inline constexpr attribute_type<574, format::enumeration<aaa_bearer_control_mode>> bearer_control_mode;
-inline constexpr attribute_type<575, format::utc> revalidation_time;
-inline constexpr attribute_type<576, format::enumeration<aaa_usage_monitoring_report>> usage_monitoring_report;
-inline constexpr attribute_type<577, format::enumeration<aaa_usage_monitoring_support>> usage_monitoring_support;
-inline constexpr attribute_type<578, format::text> relay_information_option;
-inline constexpr attribute_type<579, format::text> dhcp_subscriber_id;
-inline constexpr attribute_type<580, format::text> dhcpv6_link_address;
-inline constexpr attribute_type<581, format::ipv4> dhcp_relay_giaddr;
-inline constexpr attribute_type<582, format::text> dhcpv4_ip_lease;
-inline constexpr attribute_type<583, format::text> dhcpv4_option_to_aaa;
-inline constexpr attribute_type<584, format::text> dhcpv6_option_to_aaa;
-inline constexpr attribute_type<585, format::text> dhcpv4_vendor_class;
-inline constexpr attribute_type<586, format::text> dhcpv6_vendor_class;
-inline constexpr attribute_type<587, format::text> dhcpv6_vendor_class_string;
-inline constexpr attribute_type<588, format::text> dhcpv4_client_id;
-inline constexpr attribute_type<589, format::text> dhcpv4_client_id_spl;
-inline constexpr attribute_type<590, format::text> dhcpv6_client_id;
-inline constexpr attribute_type<591, format::text> dhcpv6_client_id_ent_ident;
-inline constexpr attribute_type<592, format::group> gx_plus_service_template;
-inline constexpr attribute_type<593, format::text> dhcpv6_option;
-inline constexpr attribute_type<594, format::text> dhcpv6_ip_lease;
-inline constexpr attribute_type<595, format::text> client_mac_address_custom2;
-inline constexpr attribute_type<596, format::utc> stop_time;
-inline constexpr attribute_type<597, format::group> service_information;
-inline constexpr attribute_type<598, format::group> ps_information;
-inline constexpr attribute_type<599, format::number> pdn_conn_charging_id;
-inline constexpr attribute_type<600, format::text> dhcpv4_mode_class;
-inline constexpr attribute_type<601, format::text> pelx_device_id;
-inline constexpr attribute_type<602, format::text> node_name;
-inline constexpr attribute_type<603, format::text> sub_policy_name;
-inline constexpr attribute_type<604, format::number> cp_session_id;
-inline constexpr attribute_type<605, format::number> dhcp_vlan_intf_session_limit;
-inline constexpr attribute_type<606, format::number> acct_stop_storage_retry;
-inline constexpr attribute_type<607, format::text> sub_ipv4_gateway;
-inline constexpr attribute_type<608, format::text> ipv6_nd_dns_servers_addr;
-inline constexpr attribute_type<609, format::number> nd_other_config;
-inline constexpr attribute_type<610, format::number> nd_managed_config;
-inline constexpr attribute_type<611, format::number> nd_ra_uincast;
-inline constexpr attribute_type<612, format::number> nd_suppress_ra;
-inline constexpr attribute_type<613, format::number> nd_nud_enable;
-inline constexpr attribute_type<614, format::number> nd_suppress_cache;
-inline constexpr attribute_type<615, format::number> nd_mtu_suppress;
-inline constexpr attribute_type<616, format::number> nd_hop_limit_unspecified;
-inline constexpr attribute_type<617, format::number> nd_router_preference;
-inline constexpr attribute_type<618, format::number> nd_ra_lifetime;
-inline constexpr attribute_type<619, format::number> nd_ns_interval;
-inline constexpr attribute_type<620, format::number> nd_reachable_time;
-inline constexpr attribute_type<621, format::text> nd_ra_interval;
-inline constexpr attribute_type<622, format::text> nd_ra_initial;
+enum text_attribute : std::uint32_t {
+  auto_logon_service = 6,
+  stateful_ipv6_address_pool = 13,
+  ipv6_addr_pool = 14,
+  addr_pool = 15,
+  subscriber_route = 16,
+  autocmd = 18,
+  autocmd_ipprompt = 19,
+  nas_connect_info = 29,
+  clid = 32,
+  circuit_id_tag = 33,
+  remote_id_tag = 34,
+  client_mac_address = 36,
+  client_mac_address_raw = 37,
+  client_mac_address_ietf = 38,
+  chargeable_user_identity = 42,
+  cmd = 55,
+  cmd_arg = 56,
+  dnis = 63,
+  dns_servers = 64,
+  eap_message = 67,
+  event = 69,
+  reason = 70,
+  idle_timeout_direction = 76,
+  call_inacl = 77,
+  inacl = 78,
+  ipv6_inacl = 79,
+  session_guid = 85,
+  nas_identifier = 86,
+  disconnect_text = 87,
+  interface = 91,
+  interface_name = 92,
+  interface_config = 93,
+  parent_interface = 94,
+  l2tp_rx_speed = 98,
+  l2tp_tx_speed = 99,
+  ip_addresses = 100,
+  ip_address_limits = 101,
+  map_class = 108,
+  reply_message = 110,
+  mlp_sess_id = 114,
+  redirect_vrf = 115,
+  dhcp_class = 116,
+  dhcpv6_class = 117,
+  dhcp_vendor_class = 118,
+  dhcp_pool = 119,
+  nas_description = 128,
+  call_outacl = 135,
+  outacl = 137,
+  ipv6_outacl = 139,
+  system_script = 144,
+  pool_def = 146,
+  feature_instance_name = 157,
+  feature_acct_method = 160,
+  cli_view_name = 162,
+  proxyacl = 164,
+  auth_type = 166,
+  redirected_station = 168,
+  negotiated_route = 169,
+  ipv6_route = 170,
+  route = 171,
+  service_name = 177,
+  parent_session_id = 178,
+  string_session_id = 179,
+  sub_qos_policy_in = 187,
+  sub_pbr_policy_in = 188,
+  sub_qos_policy_out = 189,
+  acct_policy_map = 190,
+  acct_policy_in = 191,
+  acct_policy_out = 192,
+  username = 197,
+  keepalive = 198,
+  zel_account_info = 202,
+  zel_service_info = 203,
+  zel_control_info = 205,
+  login_ipv6_addr_host = 208,
+  login_ip_host = 209,
+  ip_vrf = 219,
+  ip_addr = 220,
+  ipv4_unnumbered = 221,
+  ip_unnumbered = 222,
+  traffic_class = 226,
+  accounting_list = 227,
+  service_acct_list = 229,
+  command = 238,
+  sd = 239,
+  sa = 240,
+  sm = 241,
+  service_parameters = 242,
+  service_info = 243,
+  method_list = 244,
+  template_name = 247,
+  policymap_name = 248,
+  timer_name = 249,
+  domain = 255,
+  tunnel_name = 257,
+  dhcp_client_id = 258,
+  formatted_clid = 261,
+  tunnel_client_endpoint = 265,
+  tunnel_server_endpoint = 266,
+  tunnel_connection_id = 267,
+  tunnel_private_group_id = 269,
+  vpdn_group = 270,
+  tunnel_id = 273,
+  gw_name = 274,
+  l2tp_clid_mask_method = 276,
+  qos_policy_in = 277,
+  qos_policy_out = 278,
+  l2tp_tunnel_authen = 279,
+  tunnel_tos_reflect = 280,
+  vpn_id = 281,
+  vpn_vrf = 282,
+  vpdn_template = 284,
+  acct_multi_session_id = 287,
+  format_name = 305,
+  igmp_track = 309,
+  igmp_access_group = 311,
+  disconnect_cause = 316,
+  nas_ipv6_address = 334,
+  delegated_ipv6_pool = 337,
+  ipv6_dns_servers_addr = 338,
+  dhcpv6_interface_id = 347,
+  torvo_mobile_node_identifier = 350,
+  torvo_service_selection = 353,
+  home_lma = 354,
+  torvo_msisdn = 360,
+  imsi = 361,
+  charging_id = 362,
+  qos_profile = 365,
+  imsi_mcc_mnc = 368,
+  ggsn_mcc_mnc = 369,
+  nsapi = 370,
+  selection_mode = 372,
+  charging_characteristics = 373,
+  sgsn_mcc_mnc = 374,
+  default_gw_mac = 377,
+  domain_name = 387,
+  torvo_apn_vrf_id = 390,
+  torvo_access_vrf_id = 391,
+  echo_string_1 = 392,
+  echo_string_2 = 393,
+  echo_string_3 = 394,
+  echo_string_4 = 395,
+  dhcp_user_class = 397,
+  dhcp_client_id_spl = 401,
+  credit_control_direction = 403,
+  master_nas_identifier = 406,
+  customer_name = 409,
+  client_username = 411,
+  formatted_username = 412,
+  delegated_ipv4_prefix = 416,
+  dhcpv4_option = 419,
+  google_circuit_id_tag = 420,
+  google_remote_id_tag = 421,
+  sub_qos_group_identifier = 422,
+  timer_absolute = 423,
+  dhcp_mode_class = 424,
+  product_name = 431,
+  route_string = 432,
+  origin_host_information = 435,
+  origin_realm_information = 436,
+  destination_host_information = 437,
+  destination_realm_information = 438,
+  error_message = 442,
+  error_reporting_host = 443,
+  session_id_string = 451,
+  restricted_services = 480,
+  service_parameter_value = 484,
+  subscription_id_data = 487,
+  user_equipment_value_string = 495,
+  service_context_id = 498,
+  agw_ipv4_address = 505,
+  ancid_value = 509,
+  pri_charging_collect_func_name = 511,
+  sec_charging_collect_func_name = 512,
+  charging_rule_base_name = 520,
+  charging_rule_name = 521,
+  flow_description = 523,
+  hoa_session_id = 538,
+  voa_session_id = 539,
+  acct_trigger_cause = 550,
+  client_mac_address_custom1 = 553,
+  sg_name = 554,
+  eap_session_id = 562,
+  framed_ipv6_address = 565,
+  parsed_user_name = 566,
+  monitoring_key = 570,
+  relay_information_option = 578,
+  dhcp_subscriber_id = 579,
+  dhcpv6_link_address = 580,
+  dhcpv4_ip_lease = 582,
+  dhcpv4_option_to_aaa = 583,
+  dhcpv6_option_to_aaa = 584,
+  dhcpv4_vendor_class = 585,
+  dhcpv6_vendor_class = 586,
+  dhcpv6_vendor_class_string = 587,
+  dhcpv4_client_id = 588,
+  dhcpv4_client_id_spl = 589,
+  dhcpv6_client_id = 590,
+  dhcpv6_client_id_ent_ident = 591,
+  dhcpv6_option = 593,
+  dhcpv6_ip_lease = 594,
+  client_mac_address_custom2 = 595,
+  dhcpv4_mode_class = 600,
+  pelx_device_id = 601,
+  node_name = 602,
+  sub_policy_name = 603,
+  sub_ipv4_gateway = 607,
+  ipv6_nd_dns_servers_addr = 608,
+  nd_ra_interval = 621,
+  nd_ra_initial = 622,
+};
+
+enum binary_attribute : std::uint32_t {
+  challenge = 26,
+  response = 28,
+  user_data = 30,
+  server_data = 31,
+  idmgr_data = 83,
+  idmgr_svc_key = 84,
+  message_authenticator = 111,
+  old_password = 133,
+  port_bndl_hkey = 141,
+  nativeip_vrf = 142,
+  domainip_vrf = 143,
+  password = 145,
+  state = 172,
+  class_ = 173,
+  send_secret = 175,
+  zel_command_code = 204,
+  ms_chap_error = 213,
+  ms_chap_nt_enc_pw1 = 214,
+  ms_chap_nt_enc_pw2 = 215,
+  ms_chap_nt_enc_pw3 = 216,
+  interface_id = 223,
+  prefix = 224,
+  tunnel_password = 268,
+  l2tp_tunnel_password = 275,
+  access_loop_encapsulation = 285,
+  intercept_id = 293,
+  preferred_server_ip_address = 317,
+  delegated_prefix = 336,
+  sess_stop_ind = 371,
+  radio_access_technology_type = 375,
+  home_interface_id = 380,
+  home_lma_ipv6_address = 384,
+  home_hl_prefix = 386,
+  af_charging_id = 531,
+  acn_physical_access_id_value = 533,
+  acn_physical_access_id_realm = 534,
+  eap_msk = 559,
+  eap_emsk = 560,
+  clid_mac_addr = 561,
+  ms_mppe_send_key = 563,
+  ms_mppe_recv_key = 564,
+};
+
+enum number_attribute : std::uint32_t {
+  ipv4_icmp_unreachable = 2,
+  acl = 4,
+  id = 27,
+  session_limit = 35,
+  actual_data_rate_upstream = 40,
+  actual_data_rate_downstream = 41,
+  minimum_data_rate_upstream = 43,
+  minimum_data_rate_downstream = 44,
+  attainable_data_rate_upstream = 45,
+  attainable_data_rate_downstream = 46,
+  maximum_data_rate_upstream = 47,
+  maximum_data_rate_downstream = 48,
+  minimum_data_rate_upstream_low_power = 49,
+  minimum_data_rate_downstream_low_power = 50,
+  maximum_interleaving_delay_upstream = 51,
+  maximum_interleaving_delay_downstream = 52,
+  actual_interleaving_delay_upstream = 53,
+  actual_interleaving_delay_downstream = 54,
+  connect_rx_speed = 58,
+  connect_tx_speed = 59,
+  nas_rx_speed = 60,
+  nas_rx_speed_kbps = 61,
+  data_service = 62,
+  assign_client_dns = 68,
+  framed_mtu = 72,
+  ipv4_mtu = 73,
+  idletimeout = 74,
+  idlethreshold = 75,
+  input_giga_words = 80,
+  bytes_in = 81,
+  paks_in = 82,
+  logical_if_index = 88,
+  aaa_unique_id = 90,
+  acct_interval = 97,
+  l2tp_hello_interval = 102,
+  l2tp_cm_local_window_size = 103,
+  l2tp_nosession_timeout = 104,
+  l2tp_cm_retransmit_retries = 105,
+  l2tp_cm_min_timeout = 106,
+  mlp_links_current = 112,
+  mlp_links_max = 113,
+  mcast_rlimit = 122,
+  idle_threshold = 123,
+  load_threshold = 124,
+  max_links = 125,
+  min_links = 126,
+  ppp_multilink = 127,
+  num_sessions = 131,
+  output_giga_words = 136,
+  bytes_out = 138,
+  paks_out = 140,
+  pool_timeout = 149,
+  pre_bytes_in = 150,
+  pre_bytes_out = 151,
+  pre_paks_in = 152,
+  pre_paks_out = 153,
+  pre_session_time = 154,
+  feature_acct_id = 155,
+  service_id = 156,
+  feature_acct_bitmask = 158,
+  feature_acct_interval = 159,
+  priv_lvl = 161,
+  auth_required = 165,
+  session_id = 180,
+  acct_record_number = 181,
+  subscriber_label = 183,
+  elapsed_time = 184,
+  session_timeout = 194,
+  event_timestamp = 195,
+  user_maxlinks = 196,
+  nas_tx_speed = 199,
+  nas_tx_speed_kbps = 200,
+  login_tcp_port = 206,
+  acct_delay_time = 212,
+  ms_mppe_enc_type = 218,
+  vrf_id = 225,
+  dual_stack_delay = 228,
+  time_quota = 230,
+  volume_quota = 231,
+  giga_words_volume_quota = 232,
+  tariff_time = 233,
+  ptv_quota = 234,
+  prepaid_timeout = 236,
+  timer_value = 250,
+  nas_port = 256,
+  if_handle = 259,
+  parent_if_handle = 260,
+  port_limit = 262,
+  tunnel_preference = 271,
+  tunnel_packets_lost = 272,
+  tunnel_tos_setting = 283,
+  md_port = 290,
+  md_dscp = 291,
+  li_action = 292,
+  physical_shelf = 294,
+  physical_slot = 295,
+  physical_subslot = 296,
+  physical_adapter = 297,
+  physical_chassis = 298,
+  physical_port = 299,
+  physical_channel = 300,
+  inner_vlan_id = 301,
+  outer_vlan_id = 302,
+  vci = 303,
+  vpi = 304,
+  strict_rpf = 306,
+  pppoe_session_id = 307,
+  igmp_query_interval = 308,
+  igmp_query_max_response_time = 310,
+  igmp_max_groups = 312,
+  igmp_version = 313,
+  dsl_line_info_forwarding = 315,
+  preferred_server_authentication_port = 318,
+  preferred_server_accounting_port = 319,
+  acct_input_gigawords_ipv4 = 322,
+  acct_input_octets_ipv4 = 323,
+  acct_input_packets_ipv4 = 324,
+  acct_output_gigawords_ipv4 = 325,
+  acct_output_octets_ipv4 = 326,
+  acct_output_packets_ipv4 = 327,
+  acct_input_gigawords_ipv6 = 328,
+  acct_input_octets_ipv6 = 329,
+  acct_input_packets_ipv6 = 330,
+  acct_output_gigawords_ipv6 = 331,
+  acct_output_octets_ipv6 = 332,
+  acct_output_packets_ipv6 = 333,
+  prefix_len = 335,
+  ipv6_enable = 339,
+  ipv6_mtu = 340,
+  ipv6_strict_rpf = 341,
+  ipv6_unreachable = 342,
+  dsl_line_state = 343,
+  dsl_type = 344,
+  or_ = 346,
+  mn_max_hnp = 357,
+  torvo_uplink_gre_key = 358,
+  torvo_downlink_gre_key = 359,
+  lease_duration = 388,
+  mobility_core_mtu = 389,
+  template_if_handle = 402,
+  srg_group_id = 405,
+  master_nas_port = 407,
+  master_session_id = 408,
+  member_hash = 413,
+  start_ra_on_ipv6_enable = 414,
+  vendor_id = 425,
+  ascend_connect_progress = 426,
+  acct_unique_session_id = 427,
+  firmware_revision = 428,
+  supported_external_vendors = 430,
+  auth_application_id = 439,
+  acct_application_id = 440,
+  experimental_result_code = 446,
+  result_code = 447,
+  session_binding = 448,
+  correlation_id = 452,
+  prepaid_request_number = 460,
+  prepaid_time_units = 465,
+  prepaid_assigned_pool = 474,
+  rating_group = 478,
+  service_identifier = 481,
+  service_parameter_type = 483,
+  prepaid_service_valid_time = 497,
+  prepaid_quota_consumption_time = 499,
+  prepaid_quota_holding_time = 500,
+  prepaid_quota_threshold_time = 501,
+  prepaid_quota_volume_threshold = 503,
+  origin_state_id = 507,
+  max_req_bandw_dl = 515,
+  max_req_bandw_ul = 516,
+  precedence = 529,
+  authorization_lifetime = 545,
+  auth_grace_period = 546,
+  gx_application_id = 548,
+  last_used_server_authen_port = 557,
+  software_idb = 558,
+  feature_list_id = 568,
+  feature_list = 569,
+  pdn_conn_charging_id = 599,
+  cp_session_id = 604,
+  dhcp_vlan_intf_session_limit = 605,
+  acct_stop_storage_retry = 606,
+  nd_other_config = 609,
+  nd_managed_config = 610,
+  nd_ra_uincast = 611,
+  nd_suppress_ra = 612,
+  nd_nud_enable = 613,
+  nd_suppress_cache = 614,
+  nd_mtu_suppress = 615,
+  nd_hop_limit_unspecified = 616,
+  nd_router_preference = 617,
+  nd_ra_lifetime = 618,
+  nd_ns_interval = 619,
+  nd_reachable_time = 620,
+};
+
+enum number64_attribute : std::uint32_t {
+  tunnel_if_handle = 379,
+  input_octets = 453,
+  output_octets = 454,
+  input_octets_2 = 455,
+  output_octets_2 = 456,
+  input_packets = 457,
+  output_packets = 458,
+  prepaid_service_specific_units = 462,
+  prepaid_subsession_id = 464,
+  prepaid_volume_granted_requested_or_used = 466,
+  prepaid_value_digits = 496,
+};
+
+enum group_attribute : std::uint32_t {
+  failed_avp = 444,
+  experimental_result_avp = 445,
+  prepaid_money_units = 459,
+  prepaid_service_cost = 468,
+  prepaid_final_unit = 471,
+  prepaid_granted_unit = 473,
+  prepaid_assigned_pool_grouped = 475,
+  prepaid_info_for_multiple_services = 476,
+  requested_service_unit = 479,
+  service_parameter_info = 482,
+  subscription_id = 485,
+  unit_value = 490,
+  exponent_value = 491,
+  used_service_units = 492,
+  user_equipment_info = 493,
+  vendor_specific_application_id = 504,
+  ty_ancid = 508,
+  charging_info = 510,
+  authorized_qos = 513,
+  charging_rule_install = 517,
+  charging_rule_remove = 518,
+  charging_rule_def = 519,
+  charging_rule_report = 522,
+  acn_physical_access_id = 532,
+  bm_information = 535,
+  supported_features = 567,
+  usage_monitoring_information = 571,
+  gx_plus_service_template = 592,
+  service_information = 597,
+  ps_information = 598,
+};
+
+enum ipv4_attribute : std::uint32_t {
+  addr = 7,
+  local_addr = 8,
+  local_netmask = 9,
+  svc_assigned_ipv4_address = 10,
+  primary_dns = 65,
+  secondary_dns = 66,
+  nbns_primary_server = 129,
+  nbns_secondary_server = 130,
+  netmask = 132,
+  pool_addr = 147,
+  pool_mask = 148,
+  source_ip = 185,
+  login_ip_addr_host = 207,
+  nas_ip_address = 210,
+  framed_ipx_network = 211,
+  md_ip_addr = 288,
+  torvo_home_lma_ipv4_address = 356,
+  charging_gw_addr = 364,
+  sgsn_addrss = 366,
+  ggsn_address = 367,
+  default_ipv4_gateway = 376,
+  dhcp_server = 378,
+  mobile_ipv4_netmask = 382,
+  mobile_ipv4_addr = 383,
+  home_lma_ipv4_address = 385,
+  ipv4_default_gateway = 396,
+  home_ipv4_hoa = 410,
+  torvo_mag_coa_up_ipv4_address = 417,
+  last_used_v4_server_ip = 555,
+  dhcp_relay_giaddr = 581,
+};
+
+enum ipv6_attribute : std::uint32_t {
+  addrv6 = 11,
+  addrv6_ll = 12,
+  md_ipv6_addr = 289,
+  torvo_home_lma_ipv6_address = 355,
+  preferred_server_ipv6_address = 415,
+  torvo_mag_coa_up_ipv6_address = 418,
+  last_used_server_ip_v6_address = 556,
+};
+
+enum ip_attribute : std::uint32_t {
+  host_ip_address = 429,
+  bm_address = 536,
+  mip_mobile_node_address = 540,
+  ipgw_address = 541,
+};
+
+enum utc_attribute : std::uint32_t {
+  start_time = 186,
+  tariff_time_change = 489,
+  revalidation_time = 575,
+  stop_time = 596,
+};
+
+enum boolean_attribute : std::uint32_t {
+  force_local_chap = 25,
+  termination_action = 89,
+  key_exchange = 107,
+  config_source_dpm = 120,
+  mcast_client = 121,
+  old_prompts = 134,
+  is_session_idle = 235,
+  interworking_functionality_tag = 286,
+  ipv4_session_state = 320,
+  ipv6_session_state = 321,
+  author_status = 349,
+  torvo_multihoming_support = 352,
+  mob_sess_del_in_progress = 398,
+  mob_sess_create_in_progress = 399,
+  static_session = 400,
+};
+
+// Each of these holds values of its own enumeration.
+enum disc_cause_ext_attribute : std::uint32_t { disc_cause_ext = 1 };
+enum acct_status_type_attribute : std::uint32_t { acct_status_type = 3 };
+enum auth_services_attribute : std::uint32_t { auth_services = 5 };
+enum authentic_attribute : std::uint32_t { authentic = 17 };
+enum authen_status_attribute : std::uint32_t { authen_status = 20 };
+enum authen_type_attribute : std::uint32_t { authen_type = 21 };
+enum author_type_attribute : std::uint32_t { author_type = 22 };
+enum authen_method_attribute : std::uint32_t { authen_method = 23 };
+enum authen_strength_attribute : std::uint32_t { authen_strength = 24 };
+enum accounting_type_attribute : std::uint32_t { accounting_type = 39 };
+enum connect_progress_attribute : std::uint32_t { connect_progress = 57 };
+enum framed_protocol_attribute : std::uint32_t { framed_protocol = 71 };
+enum parent_interface_type_attribute : std::uint32_t { parent_interface_type = 95 };
+enum port_type_attribute : std::uint32_t { port_type = 96 };
+enum error_cause_attribute : std::uint32_t { error_cause = 109 };
+enum protocol_attribute : std::uint32_t { protocol = 163 };
+enum service_type_attribute : std::uint32_t { service_type = 167 };
+enum send_auth_attribute : std::uint32_t { send_auth = 174 };
+enum service_attribute : std::uint32_t { service = 176 };
+enum accounting_record_type_attribute : std::uint32_t { accounting_record_type = 182 };
+enum disc_cause_attribute : std::uint32_t { disc_cause = 193 };
+enum login_service_attribute : std::uint32_t { login_service = 201 };
+enum ms_mppe_enc_policy_attribute : std::uint32_t { ms_mppe_enc_policy = 217 };
+enum app_result_code_attribute : std::uint32_t { app_result_code = 237 };
+enum identifier_type_attribute : std::uint32_t { identifier_type = 245 };
+enum template_type_attribute : std::uint32_t { template_type = 246 };
+enum nas_port_sub_id_type_attribute : std::uint32_t { nas_port_sub_id_type = 251 };
+enum nas_port_type_id_type_attribute : std::uint32_t { nas_port_type_id_type = 252 };
+enum media_type_attribute : std::uint32_t { media_type = 253 };
+enum protocol_type_attribute : std::uint32_t { protocol_type = 254 };
+enum tunnel_type_attribute : std::uint32_t { tunnel_type = 263 };
+enum tunnel_medium_type_attribute : std::uint32_t { tunnel_medium_type = 264 };
+enum ipv4_multicast_attribute : std::uint32_t { ipv4_multicast = 314 };
+enum acct_backoff_status_attribute : std::uint32_t { acct_backoff_status = 345 };
+enum torvo_mpc_protocol_interface_attribute : std::uint32_t { torvo_mpc_protocol_interface = 348 };
+enum torvo_mn_service_attribute : std::uint32_t { torvo_mn_service = 351 };
+enum pdp_type_attribute : std::uint32_t { pdp_type = 363 };
+enum pmip6_encap_type_attribute : std::uint32_t { pmip6_encap_type = 381 };
+enum device_role_attribute : std::uint32_t { device_role = 404 };
+enum disconnect_cause_enum_attribute : std::uint32_t { disconnect_cause_enum = 433 };
+enum re_auth_request_type_attribute : std::uint32_t { re_auth_request_type = 434 };
+enum security_supported_attribute : std::uint32_t { security_supported = 441 };
+enum session_failover_attribute : std::uint32_t { session_failover = 449 };
+enum termination_cause_attribute : std::uint32_t { termination_cause = 450 };
+enum prepaid_request_type_attribute : std::uint32_t { prepaid_request_type = 461 };
+enum prepaid_session_failover_attribute : std::uint32_t { prepaid_session_failover = 463 };
+enum prepaid_units_attribute : std::uint32_t { prepaid_units = 467 };
+enum prepaid_failure_handling_attribute : std::uint32_t { prepaid_failure_handling = 469 };
+enum prepaid_message_failure_handling_attribute : std::uint32_t { prepaid_message_failure_handling = 470 };
+enum prepaid_final_unit_action_attribute : std::uint32_t { prepaid_final_unit_action = 472 };
+enum prepaid_multiple_service_indicator_attribute : std::uint32_t { prepaid_multiple_service_indicator = 477 };
+enum subscription_id_type_attribute : std::uint32_t { subscription_id_type = 486 };
+enum tariff_change_usage_attribute : std::uint32_t { tariff_change_usage = 488 };
+enum user_equipment_info_type_attribute : std::uint32_t { user_equipment_info_type = 494 };
+enum qt_reporting_reason_attribute : std::uint32_t { qt_reporting_reason = 502 };
+enum event_trigger_attribute : std::uint32_t { event_trigger = 506 };
+enum qos_class_attribute : std::uint32_t { qos_class = 514 };
+enum flow_status_attribute : std::uint32_t { flow_status = 524 };
+enum pcc_rule_status_attribute : std::uint32_t { pcc_rule_status = 525 };
+enum metering_method_attribute : std::uint32_t { metering_method = 526 };
+enum offline_attribute : std::uint32_t { offline = 527 };
+enum online_attribute : std::uint32_t { online = 528 };
+enum reporting_level_attribute : std::uint32_t { reporting_level = 530 };
+enum bm_type_attribute : std::uint32_t { bm_type = 537 };
+enum accounting_real_time_required_attribute : std::uint32_t { accounting_real_time_required = 542 };
+enum auth_request_type_attribute : std::uint32_t { auth_request_type = 543 };
+enum origin_aaa_protocol_attribute : std::uint32_t { origin_aaa_protocol = 544 };
+enum auth_session_state_attribute : std::uint32_t { auth_session_state = 547 };
+enum session_release_cause_attribute : std::uint32_t { session_release_cause = 549 };
+enum ip_can_type_attribute : std::uint32_t { ip_can_type = 551 };
+enum rat_type_attribute : std::uint32_t { rat_type = 552 };
+enum usage_monitoring_level_attribute : std::uint32_t { usage_monitoring_level = 572 };
+enum bearer_usage_attribute : std::uint32_t { bearer_usage = 573 };
+enum bearer_control_mode_attribute : std::uint32_t { bearer_control_mode = 574 };
+enum usage_monitoring_report_attribute : std::uint32_t { usage_monitoring_report = 576 };
+enum usage_monitoring_support_attribute : std::uint32_t { usage_monitoring_support = 577 };
 
 }  // namespace attrmgr::attr
+
+namespace attrmgr::detail {
+
+template <> struct format_named_by<attr::text_attribute> { using type = format::text; };
+template <> struct format_named_by<attr::binary_attribute> { using type = format::binary; };
+template <> struct format_named_by<attr::number_attribute> { using type = format::number; };
+template <> struct format_named_by<attr::number64_attribute> { using type = format::number64; };
+template <> struct format_named_by<attr::group_attribute> { using type = format::group; };
+template <> struct format_named_by<attr::ipv4_attribute> { using type = format::ipv4; };
+template <> struct format_named_by<attr::ipv6_attribute> { using type = format::ipv6; };
+template <> struct format_named_by<attr::ip_attribute> { using type = format::ip; };
+template <> struct format_named_by<attr::utc_attribute> { using type = format::utc; };
+template <> struct format_named_by<attr::boolean_attribute> { using type = format::boolean; };
+template <> struct format_named_by<attr::disc_cause_ext_attribute> { using type = format::enumeration<aaa_disc_cause_ext>; };
+template <> struct format_named_by<attr::acct_status_type_attribute> { using type = format::enumeration<aaa_acct_status_type>; };
+template <> struct format_named_by<attr::auth_services_attribute> { using type = format::enumeration<aaa_auth_services>; };
+template <> struct format_named_by<attr::authentic_attribute> { using type = format::enumeration<aaa_authentic>; };
+template <> struct format_named_by<attr::authen_status_attribute> { using type = format::enumeration<aaa_authen_status>; };
+template <> struct format_named_by<attr::authen_type_attribute> { using type = format::enumeration<aaa_authen_type>; };
+template <> struct format_named_by<attr::author_type_attribute> { using type = format::enumeration<aaa_author_type>; };
+template <> struct format_named_by<attr::authen_method_attribute> { using type = format::enumeration<aaa_authen_method>; };
+template <> struct format_named_by<attr::authen_strength_attribute> { using type = format::enumeration<aaa_authen_strength>; };
+template <> struct format_named_by<attr::accounting_type_attribute> { using type = format::enumeration<aaa_accounting_type>; };
+template <> struct format_named_by<attr::connect_progress_attribute> { using type = format::enumeration<aaa_connect_progress>; };
+template <> struct format_named_by<attr::framed_protocol_attribute> { using type = format::enumeration<aaa_framed_protocol>; };
+template <> struct format_named_by<attr::parent_interface_type_attribute> { using type = format::enumeration<aaa_parent_interface_type>; };
+template <> struct format_named_by<attr::port_type_attribute> { using type = format::enumeration<aaa_port_type>; };
+template <> struct format_named_by<attr::error_cause_attribute> { using type = format::enumeration<aaa_error_cause>; };
+template <> struct format_named_by<attr::protocol_attribute> { using type = format::enumeration<aaa_protocol>; };
+template <> struct format_named_by<attr::service_type_attribute> { using type = format::enumeration<aaa_service_type>; };
+template <> struct format_named_by<attr::send_auth_attribute> { using type = format::enumeration<aaa_send_auth>; };
+template <> struct format_named_by<attr::service_attribute> { using type = format::enumeration<aaa_service>; };
+template <> struct format_named_by<attr::accounting_record_type_attribute> { using type = format::enumeration<aaa_accounting_record_type>; };
+template <> struct format_named_by<attr::disc_cause_attribute> { using type = format::enumeration<aaa_disc_cause>; };
+template <> struct format_named_by<attr::login_service_attribute> { using type = format::enumeration<aaa_login_service>; };
+template <> struct format_named_by<attr::ms_mppe_enc_policy_attribute> { using type = format::enumeration<aaa_ms_mppe_enc_policy>; };
+template <> struct format_named_by<attr::app_result_code_attribute> { using type = format::enumeration<aaa_app_result_code>; };
+template <> struct format_named_by<attr::identifier_type_attribute> { using type = format::enumeration<aaa_identifier_type>; };
+template <> struct format_named_by<attr::template_type_attribute> { using type = format::enumeration<aaa_template_type>; };
+template <> struct format_named_by<attr::nas_port_sub_id_type_attribute> { using type = format::enumeration<aaa_nas_port_sub_id_type>; };
+template <> struct format_named_by<attr::nas_port_type_id_type_attribute> { using type = format::enumeration<aaa_nas_port_type_id_type>; };
+template <> struct format_named_by<attr::media_type_attribute> { using type = format::enumeration<aaa_media_type>; };
+template <> struct format_named_by<attr::protocol_type_attribute> { using type = format::enumeration<aaa_protocol_type>; };
+template <> struct format_named_by<attr::tunnel_type_attribute> { using type = format::enumeration<aaa_tunnel_type>; };
+template <> struct format_named_by<attr::tunnel_medium_type_attribute> { using type = format::enumeration<aaa_tunnel_medium_type>; };
+template <> struct format_named_by<attr::ipv4_multicast_attribute> { using type = format::enumeration<aaa_ipv4_multicast>; };
+template <> struct format_named_by<attr::acct_backoff_status_attribute> { using type = format::enumeration<aaa_acct_backoff_status>; };
+template <> struct format_named_by<attr::torvo_mpc_protocol_interface_attribute> { using type = format::enumeration<aaa_torvo_mpc_protocol_interface>; };
+template <> struct format_named_by<attr::torvo_mn_service_attribute> { using type = format::enumeration<aaa_torvo_mn_service>; };
+template <> struct format_named_by<attr::pdp_type_attribute> { using type = format::enumeration<aaa_pdp_type>; };
+template <> struct format_named_by<attr::pmip6_encap_type_attribute> { using type = format::enumeration<aaa_pmip6_encap_type>; };
+template <> struct format_named_by<attr::device_role_attribute> { using type = format::enumeration<aaa_device_role>; };
+template <> struct format_named_by<attr::disconnect_cause_enum_attribute> { using type = format::enumeration<aaa_disconnect_cause_enum>; };
+template <> struct format_named_by<attr::re_auth_request_type_attribute> { using type = format::enumeration<aaa_re_auth_request_type>; };
+template <> struct format_named_by<attr::security_supported_attribute> { using type = format::enumeration<aaa_security_supported>; };
+template <> struct format_named_by<attr::session_failover_attribute> { using type = format::enumeration<aaa_session_failover>; };
+template <> struct format_named_by<attr::termination_cause_attribute> { using type = format::enumeration<aaa_termination_cause>; };
+template <> struct format_named_by<attr::prepaid_request_type_attribute> { using type = format::enumeration<aaa_prepaid_request_type>; };
+template <> struct format_named_by<attr::prepaid_session_failover_attribute> { using type = format::enumeration<aaa_prepaid_session_failover>; };
+template <> struct format_named_by<attr::prepaid_units_attribute> { using type = format::enumeration<aaa_prepaid_units>; };
+template <> struct format_named_by<attr::prepaid_failure_handling_attribute> { using type = format::enumeration<aaa_prepaid_failure_handling>; };
+template <> struct format_named_by<attr::prepaid_message_failure_handling_attribute> { using type = format::enumeration<aaa_prepaid_message_failure_handling>; };
+template <> struct format_named_by<attr::prepaid_final_unit_action_attribute> { using type = format::enumeration<aaa_prepaid_final_unit_action>; };
+template <> struct format_named_by<attr::prepaid_multiple_service_indicator_attribute> { using type = format::enumeration<aaa_prepaid_multiple_service_indicator>; };
+template <> struct format_named_by<attr::subscription_id_type_attribute> { using type = format::enumeration<aaa_subscription_id_type>; };
+template <> struct format_named_by<attr::tariff_change_usage_attribute> { using type = format::enumeration<aaa_tariff_change_usage>; };
+template <> struct format_named_by<attr::user_equipment_info_type_attribute> { using type = format::enumeration<aaa_user_equipment_info_type>; };
+template <> struct format_named_by<attr::qt_reporting_reason_attribute> { using type = format::enumeration<aaa_qt_reporting_reason>; };
+template <> struct format_named_by<attr::event_trigger_attribute> { using type = format::enumeration<aaa_event_trigger>; };
+template <> struct format_named_by<attr::qos_class_attribute> { using type = format::enumeration<aaa_qos_class>; };
+template <> struct format_named_by<attr::flow_status_attribute> { using type = format::enumeration<aaa_flow_status>; };
+template <> struct format_named_by<attr::pcc_rule_status_attribute> { using type = format::enumeration<aaa_pcc_rule_status>; };
+template <> struct format_named_by<attr::metering_method_attribute> { using type = format::enumeration<aaa_metering_method>; };
+template <> struct format_named_by<attr::offline_attribute> { using type = format::enumeration<aaa_offline>; };
+template <> struct format_named_by<attr::online_attribute> { using type = format::enumeration<aaa_online>; };
+template <> struct format_named_by<attr::reporting_level_attribute> { using type = format::enumeration<aaa_reporting_level>; };
+template <> struct format_named_by<attr::bm_type_attribute> { using type = format::enumeration<aaa_bm_type>; };
+template <> struct format_named_by<attr::accounting_real_time_required_attribute> { using type = format::enumeration<aaa_accounting_real_time_required>; };
+template <> struct format_named_by<attr::auth_request_type_attribute> { using type = format::enumeration<aaa_auth_request_type>; };
+template <> struct format_named_by<attr::origin_aaa_protocol_attribute> { using type = format::enumeration<aaa_origin_aaa_protocol>; };
+template <> struct format_named_by<attr::auth_session_state_attribute> { using type = format::enumeration<aaa_auth_session_state>; };
+template <> struct format_named_by<attr::session_release_cause_attribute> { using type = format::enumeration<aaa_session_release_cause>; };
+template <> struct format_named_by<attr::ip_can_type_attribute> { using type = format::enumeration<aaa_ip_can_type>; };
+template <> struct format_named_by<attr::rat_type_attribute> { using type = format::enumeration<aaa_rat_type>; };
+template <> struct format_named_by<attr::usage_monitoring_level_attribute> { using type = format::enumeration<aaa_usage_monitoring_level>; };
+template <> struct format_named_by<attr::bearer_usage_attribute> { using type = format::enumeration<aaa_bearer_usage>; };
+template <> struct format_named_by<attr::bearer_control_mode_attribute> { using type = format::enumeration<aaa_bearer_control_mode>; };
+template <> struct format_named_by<attr::usage_monitoring_report_attribute> { using type = format::enumeration<aaa_usage_monitoring_report>; };
+template <> struct format_named_by<attr::usage_monitoring_support_attribute> { using type = format::enumeration<aaa_usage_monitoring_support>; };
+
+}  // namespace attrmgr::detail
 
 // clang-format on

@@ -34,13 +34,13 @@ class flat_view {
   }
 
   // The value of the first attribute of the type; nothing when there is none. Groups are read from a list: to_list.
-  template <std::uint32_t kNumber, class Format>
-  std::optional<typename detail::value_of<Format>::type> get(attribute_type<kNumber, Format> type) const {
+  template <typed_attribute Attribute>
+  std::optional<detail::value_of<Attribute>> get(Attribute type) const {
     static_assert(
-        !std::same_as<Format, format::group>,
+        !std::same_as<Attribute, attr::group_attribute>,
         "attrmgr: a group cannot be read inside a buffer, whose handles mean nothing: make a list with to_list");
     for (iterator at = begin(); at != end(); ++at)
-      if ((*at).type() == kNumber) return (*at).value(type);
+      if ((*at).type() == type) return (*at).value(type);
     return std::nullopt;
   }
 

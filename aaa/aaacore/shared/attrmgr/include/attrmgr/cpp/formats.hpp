@@ -411,35 +411,43 @@ struct group {
 
 namespace detail {
 
+// The format of the attributes whose constants have this type: attributes.hpp has a specialisation for each.
+template <class Attribute>
+struct format_named_by;
+
 // What an attribute of the format gives when it is read.
 template <class Format>
-struct value_of {
+struct value_given_by {
   using type = typename Format::value;
 };
 template <>
-struct value_of<format::utc>;  // include <attrmgr/chrono.hpp>, which defines it
+struct value_given_by<format::utc>;  // include <attrmgr/chrono.hpp>, which defines it
+
+template <class Attribute>
+using format_of = typename format_named_by<Attribute>::type;
+template <class Attribute>
+using argument_of = typename format_of<Attribute>::argument;
+template <class Attribute>
+using value_of = typename value_given_by<format_of<Attribute>>::type;
 
 }  // namespace detail
 
-// An attribute type of the dictionary with what its values are: the constants of attributes.hpp. As a number it is the
-// type's number. (There are 622 of these classes: each member would cost a compiler as much again.)
-template <std::uint32_t kNumber, class Format>
-struct attribute_type {
-  constexpr operator std::uint32_t() const { return kNumber; }
+// The type of a constant of attr.
+template <class T>
+concept typed_attribute = requires {
+  typename detail::format_named_by<T>::type;
 };
 
 // The name of a value, null for a number that has none; the value that has the name.
-template <std::uint32_t kNumber, class Enumeration>
-const char *name_of(attribute_type<kNumber, format::enumeration<Enumeration>>,
-                    std::type_identity_t<Enumeration> value) {
-  return aaa_attr_get_enum_name_from_type(kNumber, static_cast<std::uint32_t>(value));
+template <typed_attribute Attribute>
+const char *name_of(Attribute type, detail::value_of<Attribute> value) {
+  return aaa_attr_get_enum_name_from_type(type, static_cast<std::uint32_t>(value));
 }
-template <std::uint32_t kNumber, class Enumeration>
-std::optional<Enumeration> value_named(attribute_type<kNumber, format::enumeration<Enumeration>>,
-                                       std::string_view name) {
+template <typed_attribute Attribute>
+std::optional<detail::value_of<Attribute>> value_named(Attribute type, std::string_view name) {
   std::uint32_t number = 0;
-  if (detail::find_value_named(kNumber, name, number) != 0) return std::nullopt;
-  return static_cast<Enumeration>(number);
+  if (detail::find_value_named(type, name, number) != 0) return std::nullopt;
+  return static_cast<detail::value_of<Attribute>>(number);
 }
 
 }  // namespace attrmgr

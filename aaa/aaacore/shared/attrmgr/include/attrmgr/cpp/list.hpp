@@ -18,56 +18,50 @@ class list_ref : public list_view {
   //
   // The value is what formats.hpp says for the type; it is copied, a list moved. On failure nothing has changed.
 
-  template <std::uint32_t kNumber, class Format>
-  void add(attribute_type<kNumber, Format> type, std::type_identity_t<typename Format::argument> value) {
-    detail::check(store<aaa_attr_add>(type, value, nullptr), "add", kNumber);
+  template <typed_attribute Attribute>
+  void add(Attribute type, detail::argument_of<Attribute> value) {
+    detail::check(store<aaa_attr_add>(type, value, nullptr), "add", type);
   }
-  template <std::uint32_t kNumber, class Format>
-  void add(attribute_type<kNumber, Format> type, std::type_identity_t<typename Format::argument> value,
-           const meta &with, std::uint32_t client_type = 0) {
+  template <typed_attribute Attribute>
+  void add(Attribute type, detail::argument_of<Attribute> value, const meta &with, std::uint32_t client_type = 0) {
     const aaa_attr_meta carried = detail::to_c(with);
-    detail::check(store<aaa_attr_add_v1>(type, value, &carried, client_type), "add", kNumber);
+    detail::check(store<aaa_attr_add_v1>(type, value, &carried, client_type), "add", type);
   }
-  template <std::uint32_t kNumber, class Format>
-  result<void> try_add(attribute_type<kNumber, Format> type, std::type_identity_t<typename Format::argument> value) {
+  template <typed_attribute Attribute>
+  result<void> try_add(Attribute type, detail::argument_of<Attribute> value) {
     return detail::as_result(store<aaa_attr_add>(type, value, nullptr));
   }
-  template <std::uint32_t kNumber, class Format>
-  result<void> try_add(attribute_type<kNumber, Format> type, std::type_identity_t<typename Format::argument> value,
-                       const meta &with, std::uint32_t client_type = 0) {
+  template <typed_attribute Attribute>
+  result<void> try_add(Attribute type, detail::argument_of<Attribute> value, const meta &with,
+                       std::uint32_t client_type = 0) {
     const aaa_attr_meta carried = detail::to_c(with);
     return detail::as_result(store<aaa_attr_add_v1>(type, value, &carried, client_type));
   }
 
   // Replaces the first attribute of the type, or adds one; a sub-list that it held is freed.
-  template <std::uint32_t kNumber, class Format>
-  void set(attribute_type<kNumber, Format> type, std::type_identity_t<typename Format::argument> value) {
-    detail::check(store<aaa_attr_add_or_replace>(type, value, nullptr), "set", kNumber);
+  template <typed_attribute Attribute>
+  void set(Attribute type, detail::argument_of<Attribute> value) {
+    detail::check(store<aaa_attr_add_or_replace>(type, value, nullptr), "set", type);
   }
-  template <std::uint32_t kNumber, class Format>
-  void set(attribute_type<kNumber, Format> type, std::type_identity_t<typename Format::argument> value,
-           const meta &with, std::uint32_t client_type = 0) {
+  template <typed_attribute Attribute>
+  void set(Attribute type, detail::argument_of<Attribute> value, const meta &with, std::uint32_t client_type = 0) {
     const aaa_attr_meta carried = detail::to_c(with);
-    detail::check(store<aaa_attr_add_or_replace_v2>(type, value, &carried, client_type), "set", kNumber);
+    detail::check(store<aaa_attr_add_or_replace_v2>(type, value, &carried, client_type), "set", type);
   }
-  template <std::uint32_t kNumber, class Format>
-  result<void> try_set(attribute_type<kNumber, Format> type, std::type_identity_t<typename Format::argument> value) {
+  template <typed_attribute Attribute>
+  result<void> try_set(Attribute type, detail::argument_of<Attribute> value) {
     return detail::as_result(store<aaa_attr_add_or_replace>(type, value, nullptr));
   }
 
   // Adds a group with an empty sub-list and returns it to be filled; this list owns it.
-  template <std::uint32_t kNumber>
-  list_ref add_group(attribute_type<kNumber, format::group>) {
-    return new_group(kNumber, nullptr);
-  }
-  template <std::uint32_t kNumber>
-  list_ref add_group(attribute_type<kNumber, format::group>, const meta &with) {
+  list_ref add_group(attr::group_attribute type) { return new_group(type, nullptr); }
+  list_ref add_group(attr::group_attribute type, const meta &with) {
     const aaa_attr_meta carried = detail::to_c(with);
-    return new_group(kNumber, &carried);
+    return new_group(type, &carried);
   }
 
   // For types known only while the program runs: the bytes that aaa_attr_add takes, a text without its NUL. Groups are
-  // added by add_group.
+  // added by add_group_by_number.
   void add_bytes(std::uint32_t type, std::span<const std::byte> value) {
     detail::check(bytes_to_add(type, value, nullptr), "add", type);
   }
@@ -82,8 +76,8 @@ class list_ref : public list_view {
     const aaa_attr_meta carried = detail::to_c(with);
     return detail::as_result(bytes_to_add(type, value, &carried));
   }
-  list_ref add_group(std::uint32_t type) { return new_group(type, nullptr); }
-  list_ref add_group(std::uint32_t type, const meta &with) {
+  list_ref add_group_by_number(std::uint32_t type) { return new_group(type, nullptr); }
+  list_ref add_group_by_number(std::uint32_t type, const meta &with) {
     const aaa_attr_meta carried = detail::to_c(with);
     return new_group(type, &carried);
   }
@@ -94,20 +88,20 @@ class list_ref : public list_view {
   // ---- Groups ----
 
   // The sub-list of the first group of the type, to be changed; nothing when there is none.
-  template <std::uint32_t kNumber, class List = list_ref>
-  std::optional<List> group(attribute_type<kNumber, format::group> type) {
+  template <class List = list_ref>
+  std::optional<List> group(attr::group_attribute type) {
     const auto found = get(type);
     if (!found) return std::nullopt;
     return List(found->handle());
   }
 
   // Takes the first group of the type out of this list; nothing when there is none.
-  template <std::uint32_t kNumber, class List = list>
-  std::optional<List> take(attribute_type<kNumber, format::group> type) {
+  template <class List = list>
+  std::optional<List> take(attr::group_attribute type) {
     const auto found = get(type);
     if (!found) return std::nullopt;
     const aaa_attr_list_handle sub_list = found->handle();
-    detail::check(aaa_attr_remove_on_match(handle_, kNumber, &sub_list, sizeof sub_list), "take", kNumber);
+    detail::check(aaa_attr_remove_on_match(handle_, type, &sub_list, sizeof sub_list), "take", type);
     return List::adopt(sub_list);
   }
 
@@ -116,12 +110,13 @@ class list_ref : public list_view {
   // Every attribute of the type, with its sub-list.
   void remove(std::uint32_t type) { detail::check(aaa_attr_remove(handle_, type), "remove", type); }
 
-  // Every attribute of the type with this value. A group is taken out by take.
-  template <std::uint32_t kNumber, class Format>
-  requires(!std::same_as<Format, format::group>) void remove(attribute_type<kNumber, Format>,
-                                                             std::type_identity_t<typename Format::argument> value) {
-    detail::check(value.code(), "remove", kNumber);
-    detail::check(aaa_attr_remove_on_match(handle_, kNumber, value.data(), value.size()), "remove", kNumber);
+  // Every attribute of the type with this value.
+  template <typed_attribute Attribute>
+  void remove(Attribute type, detail::argument_of<Attribute> value) {
+    static_assert(!std::same_as<Attribute, attr::group_attribute>,
+                  "attrmgr: a group is taken out of its list by take, which hands the sub-list over");
+    detail::check(value.code(), "remove", type);
+    detail::check(aaa_attr_remove_on_match(handle_, type, value.data(), value.size()), "remove", type);
   }
 
   // Every attribute for which the predicate returns true, with its sub-list.
@@ -196,12 +191,12 @@ class list_ref : public list_view {
 
  private:
   // kAdd is one of the C calls of adding; the last arguments are what it takes behind the value.
-  template <auto kAdd, std::uint32_t kNumber, class Format, class Argument, class... Rest>
-  aaa_attr_cerrno store(attribute_type<kNumber, Format>, const Argument &value, Rest... rest) {
+  template <auto kAdd, class Attribute, class Argument, class... Rest>
+  aaa_attr_cerrno store(Attribute type, const Argument &value, Rest... rest) {
     if (value.code() != 0) return value.code();
-    if constexpr (std::same_as<Format, format::group>)
+    if constexpr (std::same_as<Attribute, attr::group_attribute>)
       if (value.names(handle_)) return AAA_ATTR_ERR_BAD_ARG;  // a list that owned itself would never be freed
-    const aaa_attr_cerrno code = kAdd(handle_, kNumber, value.data(), value.size(), rest...);
+    const aaa_attr_cerrno code = kAdd(handle_, type, value.data(), value.size(), rest...);
     if (code == 0) value.added();
     return code;
   }

@@ -30,32 +30,30 @@ class list_view {
   }
 
   // The values of all attributes of the type.
-  template <std::uint32_t kNumber, class Format>
-  values<kNumber, Format> all(attribute_type<kNumber, Format>) const {
-    return values<kNumber, Format>(detail::cursor_over(handle_));
+  template <typed_attribute Attribute>
+  values<Attribute> all(Attribute type) const {
+    return values<Attribute>(detail::cursor_over(handle_), type);
   }
 
   // ---- Finding ----
 
   // The value of the first attribute of the type, or of the n-th, from 0; nothing when there is none. Texts and bytes
   // point into the list. Throws attrmgr::error when the list is gone, or what is stored has a wrong length.
-  template <std::uint32_t kNumber, class Format>
-  std::optional<typename detail::value_of<Format>::type> get(attribute_type<kNumber, Format> type) const {
-    std::optional<typename detail::value_of<Format>::type> found;
-    detail::check(read(type, found), "read", kNumber);
+  template <typed_attribute Attribute>
+  std::optional<detail::value_of<Attribute>> get(Attribute type) const {
+    std::optional<detail::value_of<Attribute>> found;
+    detail::check(read(type, found), "read", type);
     return found;
   }
-  template <std::uint32_t kNumber, class Format>
-  std::optional<typename detail::value_of<Format>::type> get(attribute_type<kNumber, Format> type,
-                                                             std::uint16_t n) const {
-    std::optional<typename detail::value_of<Format>::type> found;
-    detail::check(read(type, found, n), "read", kNumber);
+  template <typed_attribute Attribute>
+  std::optional<detail::value_of<Attribute>> get(Attribute type, std::uint16_t n) const {
+    std::optional<detail::value_of<Attribute>> found;
+    detail::check(read(type, found, n), "read", type);
     return found;
   }
-  template <std::uint32_t kNumber, class Format>
-  result<std::optional<typename detail::value_of<Format>::type>> try_get(attribute_type<kNumber, Format> type,
-                                                                         std::uint16_t n = 0) const {
-    std::optional<typename detail::value_of<Format>::type> found;
+  template <typed_attribute Attribute>
+  result<std::optional<detail::value_of<Attribute>>> try_get(Attribute type, std::uint16_t n = 0) const {
+    std::optional<detail::value_of<Attribute>> found;
     const aaa_attr_cerrno code = n == 0 ? read(type, found) : read(type, found, n);
     if (code != 0) return static_cast<errc>(code);
     return found;
@@ -140,19 +138,19 @@ class list_view {
     ~freed_array() { std::free(entries); }
   };
 
-  template <std::uint32_t kNumber, class Format, class Found, class... Nth>
-  aaa_attr_cerrno read(attribute_type<kNumber, Format>, Found &found, Nth... nth) const {
+  template <class Attribute, class Found, class... Nth>
+  aaa_attr_cerrno read(Attribute type, Found &found, Nth... nth) const {
     const void *value = nullptr;
     std::uint32_t length = 0;
     aaa_attr_cerrno code;
     if constexpr (sizeof...(nth) == 0) {
-      code = aaa_attr_get(handle_, kNumber, &value, &length);
+      code = aaa_attr_get(handle_, type, &value, &length);
     } else {
-      code = aaa_attr_get_nth(handle_, kNumber, &value, &length, nth...);
+      code = aaa_attr_get_nth(handle_, type, &value, &length, nth...);
     }
     if (code == AAA_ATTR_ERR_NOT_FOUND) return 0;
     if (code != 0) return code;
-    if (Format::read({static_cast<const std::byte *>(value), length}, found.emplace())) return 0;
+    if (detail::format_of<Attribute>::read({static_cast<const std::byte *>(value), length}, found.emplace())) return 0;
     found.reset();
     return AAA_ATTR_ERR_BAD_FORMAT;
   }

@@ -79,20 +79,20 @@ class attributes {
 };
 
 // The values of the attributes of one type, in list order: `for (std::string_view route : list.all(attr::route))`.
-template <std::uint32_t kNumber, class Format>
+template <typed_attribute Attribute>
 class values {
  public:
   class iterator {
    public:
-    using value_type = typename detail::value_of<Format>::type;
+    using value_type = detail::value_of<Attribute>;
     using difference_type = std::ptrdiff_t;
     using iterator_concept = std::forward_iterator_tag;
     using iterator_category = std::input_iterator_tag;
 
     iterator() = default;
-    explicit iterator(attrmgr::iterator at) : at_(at) { skip_others(); }
+    iterator(attrmgr::iterator at, Attribute type) : at_(at), type_(type) { skip_others(); }
 
-    value_type operator*() const { return *(*at_).value(attribute_type<kNumber, Format>()); }
+    value_type operator*() const { return (*at_).template value<value_type>(); }
     iterator &operator++() {
       ++at_;
       skip_others();
@@ -108,17 +108,19 @@ class values {
 
    private:
     void skip_others() {
-      while (at_ != std::default_sentinel && (*at_).type() != kNumber) ++at_;
+      while (at_ != std::default_sentinel && (*at_).type() != type_) ++at_;
     }
     attrmgr::iterator at_;
+    Attribute type_{};
   };
 
-  explicit values(const aaa_cursor &from) : from_(from) {}
-  iterator begin() const { return iterator(attrmgr::iterator(from_)); }
+  values(const aaa_cursor &from, Attribute type) : from_(from), type_(type) {}
+  iterator begin() const { return iterator(attrmgr::iterator(from_), type_); }
   std::default_sentinel_t end() const { return {}; }
 
  private:
   aaa_cursor from_;
+  Attribute type_;
 };
 
 }  // namespace attrmgr
