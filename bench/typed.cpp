@@ -9,7 +9,6 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -32,11 +31,15 @@ struct Item {
 using Items = std::vector<Item>;
 
 std::vector<Items> all_items() {
-  std::mt19937 random(4711);
+  std::uint64_t state = 4711;
+  const auto random = [&state] {
+    state = state * 6364136223846793005U + 1442695040888963407U;  // a linear congruential sequence of 64 bits
+    return static_cast<std::uint32_t>(state >> 32);
+  };
   std::vector<Items> all(kLists);
   for (Items &items : all)
     for (std::size_t i = 0; i < kPerList; ++i) {
-      const std::uint32_t number = static_cast<std::uint32_t>(random());
+      const std::uint32_t number = random();
       items.push_back({decltype(Item::kind)(random() % 3), std::string(8 + random() % 17, 'x'), number, {number}});
     }
   return all;
@@ -154,7 +157,7 @@ double compare(const char *name, auto c_side, auto cpp_side) {
 }  // namespace
 
 int main(int argc, char **argv) {
-  const double bound = argc > 1 ? std::atof(argv[1]) : 1000;
+  const double bound = argc > 1 ? std::strtod(argv[1], nullptr) : 1000;
   const std::vector<Items> all = all_items();
   std::vector<list> lists;
   for (const Items &items : all) add_cpp(lists.emplace_back(), items);

@@ -68,9 +68,10 @@ void write_c_constants() {
   std::fputs(kHead, stdout);
   open("aaa_attr_type");
   for (const Type &type : types()) {
-    const std::string format = aaa_attr_get_format_string(aaa_attr_get_format_from_type(type.number));
-    const std::string known_as = elsewhere(type);
-    put(constant_of(type), type.number, quoted(type.name) + ", " + format + (known_as.empty() ? "" : "; ") + known_as);
+    std::string comment = quoted(type.name) + ", ";
+    comment += aaa_attr_get_format_string(aaa_attr_get_format_from_type(type.number));
+    if (const std::string known_as = elsewhere(type); !known_as.empty()) comment += "; " + known_as;
+    put(constant_of(type), type.number, comment);
   }
   close("aaa_attr_type");
 

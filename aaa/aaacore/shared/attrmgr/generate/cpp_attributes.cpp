@@ -64,8 +64,8 @@ void write_cpp_attributes() {
       std::exit(1);
     }
   std::fputs(
-      R"(// attributes.hpp: the attribute types of the dictionary as typed constants. As a number a constant is the type's number;
-// its own type tells the format, and so what a value of the attribute is: formats.hpp has the rules.
+      R"(// attributes.hpp: the attribute types of the dictionary as typed constants. As a number a constant is the number of the
+// type; its own type tells the format, and so what a value of the attribute is: formats.hpp has the rules.
 //
 // Written from the dictionary by scripts/dictionary: do not edit. docs/dictionary.md has the same as a table to read.
 #pragma once
@@ -96,8 +96,8 @@ namespace attrmgr::attr {
 
 void write_cpp_value_names() {
   std::fputs(
-      R"(// value_names.hpp: the attribute type of each enumeration, and the names of its values in the order of their numbers:
-// a name in the text of a program is checked while it compiles.
+      R"(// value_names.hpp: the attribute type of each enumeration, and the names of its values in the order of their numbers: a
+// name in the text of a program is checked while it compiles.
 //
 // Written from the dictionary by scripts/dictionary: do not edit.
 #pragma once

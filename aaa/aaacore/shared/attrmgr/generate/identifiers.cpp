@@ -53,7 +53,7 @@ std::string without_keyword(const std::string &name) {
 std::string format_word(std::uint32_t format) { return identifier(aaa_attr_get_format_string(format)); }
 
 std::string suffix_of(const std::vector<Type> &lower_types, const attrmgr::TypeRow &row) {
-  const std::string plain = identifier(std::string(row.name));
+  std::string plain = identifier(std::string(row.name));
   unsigned sharing = 1;
   bool same_format = false;
   for (const Type &type : lower_types)

@@ -9,16 +9,16 @@ namespace generate {
 namespace {
 
 struct RfcName {
-  std::uint32_t type;
   const char *our_name;
-  unsigned rfc;
   const char *name;
-  unsigned number;
   const char *note;
+  std::uint32_t type;
+  unsigned rfc;
+  unsigned number;
 };
 
 constexpr RfcName kRfcNames[] = {
-#define RFC(type, our_name, rfc, name, number, note) {type, our_name, rfc, name, number, note},
+#define RFC(type, our_name, rfc, name, number, note) {our_name, name, note, type, rfc, number},
 #include "rfc_names.def"
 #undef RFC
 };

@@ -1,5 +1,5 @@
-// attributes.hpp: the attribute types of the dictionary as typed constants. As a number a constant is the type's number;
-// its own type tells the format, and so what a value of the attribute is: formats.hpp has the rules.
+// attributes.hpp: the attribute types of the dictionary as typed constants. As a number a constant is the number of the
+// type; its own type tells the format, and so what a value of the attribute is: formats.hpp has the rules.
 //
 // Written from the dictionary by scripts/dictionary: do not edit. docs/dictionary.md has the same as a table to read.
 #pragma once

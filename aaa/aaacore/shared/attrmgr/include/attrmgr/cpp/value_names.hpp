@@ -1,5 +1,5 @@
-// value_names.hpp: the attribute type of each enumeration, and the names of its values in the order of their numbers:
-// a name in the text of a program is checked while it compiles.
+// value_names.hpp: the attribute type of each enumeration, and the names of its values in the order of their numbers: a
+// name in the text of a program is checked while it compiles.
 //
 // Written from the dictionary by scripts/dictionary: do not edit.
 #pragma once

@@ -90,7 +90,7 @@ class values {
     using iterator_category = std::input_iterator_tag;
 
     iterator() = default;
-    iterator(attrmgr::iterator at, Attribute type) : at_(at), type_(type) { skip_others(); }
+    iterator(const attrmgr::iterator &at, Attribute type) : at_(at), type_(type) { skip_others(); }
 
     value_type operator*() const { return (*at_).template value<value_type>(); }
     iterator &operator++() {
