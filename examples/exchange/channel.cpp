@@ -43,7 +43,7 @@ void Channel::close() {
   if (socket_ >= 0) ::close(std::exchange(socket_, -1));
 }
 
-std::size_t Channel::send(const Message &message) { return send(std::vector<Piece>{message}); }
+std::size_t Channel::send(Piece message) { return send(std::vector<Piece>{message}); }
 
 std::size_t Channel::send(const std::vector<Piece> &pieces) {
   std::size_t length = 0;

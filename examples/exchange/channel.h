@@ -23,7 +23,7 @@ class Channel {
   void close();
 
   // Sends one message and returns its length. The second form sends the pieces as they lie in memory.
-  std::size_t send(const Message &message);
+  std::size_t send(Piece message);
   std::size_t send(const std::vector<Piece> &pieces);
 
   Message receive();

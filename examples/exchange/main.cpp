@@ -42,7 +42,10 @@ void flush_output() {
 
 std::size_t send_list(Channel &channel, attrmgr::list &list, Form form) {
   if (form == Form::kFlat) return channel.send(list.to_flat());
-  if (form == Form::kGather) return channel.send(list.to_pieces());
+  if (form == Form::kGather) {
+    const attrmgr::pieces pieces = list.to_pieces();
+    return channel.send(std::vector<Piece>(pieces.begin(), pieces.end()));
+  }
   return channel.send(list.to_tlv());
 }
 
@@ -71,7 +74,7 @@ int run_receiver(Channel &channel) {
       std::printf("%td attributes, counted in the buffer as it lies\n", std::ranges::distance(in_place));
     }
     attrmgr::list list = attrmgr::list::from_bytes(message);  // checks by itself
-    const Message answer = list.to_flat();                    // as received: printing clears bits behind an IPv6 prefix
+    const attrmgr::bytes answer = list.to_flat();             // as received: printing clears bits behind an IPv6 prefix
     aaa_attr_list_print(list.handle());
     flush_output();
     channel.send(answer);

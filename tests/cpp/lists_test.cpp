@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <numeric>
 #include <ranges>
+#include <vector>
 
 namespace {
 

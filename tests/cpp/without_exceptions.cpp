@@ -13,7 +13,7 @@ int main(int argc, char **) {
   if (list.try_add(attr::addr, "nowhere").code() != AAA_ATTR_ERR_BAD_ARG) return 3;
   const auto user = list.try_get(attr::username);
   if (!user || *user != "bob") return 4;
-  const std::vector<std::byte> bytes = list.to_flat();
+  const attrmgr::bytes bytes = list.to_flat();
   const auto received = attrmgr::flat_view::try_check(bytes);
   if (!received || received->get(attr::framed_mtu) != 1500u) return 5;
   const auto again = attrmgr::list::try_from_bytes(bytes);

@@ -7,7 +7,7 @@ int main() {
   attrmgr::list sent;
   sent.add(attr::acct_status_type, "Start");
   sent.add_group(attr::subscription_id).add(attr::subscription_id_data, "100-2277");
-  const std::vector<std::byte> message = sent.to_flat();
+  const attrmgr::bytes message = sent.to_flat();
   const attrmgr::flat_view in_place = attrmgr::flat_view::check(message);
   const attrmgr::list received = attrmgr::list::from_bytes(message);
   const bool seen = in_place.get(attr::acct_status_type) == AAA_ACCT_STATUS_TYPE_START &&

@@ -6,7 +6,7 @@
 //   record.add(attr::acct_status_type, AAA_ACCT_STATUS_TYPE_STOP);
 //   record.add_group(attr::subscription_id).add(attr::subscription_id_data, "100-2277");
 //   for (attrmgr::attribute a : record) std::puts(a.name());
-//   std::vector<std::byte> message = record.to_flat();           // attrmgr::list::from_bytes(message) reads it
+//   attrmgr::bytes message = record.to_flat();                   // attrmgr::list::from_bytes(message) reads it
 //
 // The dictionary types every attribute: a value that does not suit it does not compile. What fails while the program
 // runs throws attrmgr::error, or is returned by the forms whose names begin with try_.
@@ -20,6 +20,7 @@
 #include <attrmgr/cpp/attribute.hpp>   // an attribute met on a walk
 #include <attrmgr/cpp/attributes.hpp>  // the types of the dictionary: attr::username
 #include <attrmgr/cpp/buffer.hpp>      // flat_view: received bytes, read in place
+#include <attrmgr/cpp/bytes.hpp>       // what encodings hand out
 #include <attrmgr/cpp/error.hpp>       // error, errc, result
 #include <attrmgr/cpp/formats.hpp>     // what values each attribute takes and gives
 #include <attrmgr/cpp/list.hpp>        // list, list_ref

@@ -88,16 +88,16 @@ class list_ref : public list_view {
   // ---- Groups ----
 
   // The sub-list of the first group of the type, to be changed; nothing when there is none.
-  template <class List = list_ref>
-  std::optional<List> group(attr::group_attribute type) {
+  template <class List = list_ref, std::same_as<attr::group_attribute> Group>
+  std::optional<List> group(Group type) {
     const auto found = get(type);
     if (!found) return std::nullopt;
     return List(found->handle());
   }
 
   // Takes the first group of the type out of this list; nothing when there is none.
-  template <class List = list>
-  std::optional<List> take(attr::group_attribute type) {
+  template <class List = list, std::same_as<attr::group_attribute> Group>
+  std::optional<List> take(Group type) {
     const auto found = get(type);
     if (!found) return std::nullopt;
     const aaa_attr_list_handle sub_list = found->handle();
@@ -171,10 +171,7 @@ class list_ref : public list_view {
   // ---- Bytes ----
 
   // The list and its sub-lists as a flat buffer, in the host's byte order. Packs the list first.
-  template <class Byte = std::byte>
-  std::vector<Byte> to_flat() {
-    return encoded<Byte>(aaa_attr_list_to_buffer_v1);
-  }
+  bytes to_flat() { return encoded(aaa_attr_list_to_buffer_v1); }
 
   // The same into memory of the caller's; returns the part that was written. Throws attrmgr::error (bad_format) when it
   // does not fit, nothing written then. flat_size tells how much it takes, and packs the list too.

@@ -4,10 +4,8 @@
 
 #include <attrmgr/aaa_attr.h>
 #include <attrmgr/aaa_attr_marshal.h>
+#include <attrmgr/cpp/bytes.hpp>
 #include <attrmgr/cpp/walk.hpp>
-
-#include <cstdlib>
-#include <vector>
 
 namespace attrmgr {
 
@@ -90,42 +88,29 @@ class list_view {
   // ---- Bytes ----
 
   // The list and its sub-lists as a TLV buffer.
-  template <class Byte = std::byte>
-  std::vector<Byte> to_tlv() const {
-    return encoded<Byte>(aaa_attr_list_tlv_to_buffer);
-  }
+  bytes to_tlv() const { return encoded(aaa_attr_list_tlv_to_buffer); }
 
   // The same as a flat buffer, in the host's byte order; attributes that were removed but not packed away travel too.
   // list_ref::to_flat packs first.
-  template <class Byte = std::byte>
-  std::vector<Byte> to_flat_as_it_stands() const {
-    return encoded<Byte>(aaa_attr_list_to_buffer);
-  }
+  bytes to_flat_as_it_stands() const { return encoded(aaa_attr_list_to_buffer); }
 
   // The pieces of the flat buffer where they lie, for a vectored write; they hold until the list changes.
-  template <class Byte = const std::byte>
-  std::vector<std::span<Byte>> to_pieces() const {
+  pieces to_pieces() const {
     aaa_attr_array_entry *entries = nullptr;
-    std::uint32_t count = 0;
+    std::uint32_t count = 0;  // 0 has the array allocated
     detail::check(aaa_attr_list_to_array(handle_, &entries, &count), "gather the pieces of a list");
-    const freed_array owner{entries};
-    std::vector<std::span<Byte>> pieces;
-    pieces.reserve(count);
-    for (std::uint32_t i = 0; i < count; ++i)
-      pieces.emplace_back(static_cast<Byte *>(entries[i].base), entries[i].length);
-    return pieces;
+    return {entries, count};
   }
 
  protected:
   using encoder = aaa_attr_cerrno(aaa_attr_list_handle, void *, std::uint32_t *);
 
   // Asks for the size, then for the bytes. Two encodings of an unchanged list are of one size.
-  template <class Byte>
-  std::vector<Byte> encoded(encoder *encode) const {
+  bytes encoded(encoder *encode) const {
     std::uint32_t size = 0;
     const aaa_attr_cerrno code = encode(handle_, nullptr, &size);
     if (code != AAA_ATTR_ERR_BAD_FORMAT || size == 0) detail::raise(code, "encode a list");
-    std::vector<Byte> buffer(size);
+    bytes buffer(size);
     detail::check(encode(handle_, buffer.data(), &size), "encode a list");
     return buffer;
   }
@@ -133,11 +118,6 @@ class list_view {
   aaa_attr_list_handle handle_ = 0;
 
  private:
-  struct freed_array {
-    aaa_attr_array_entry *entries;
-    ~freed_array() { std::free(entries); }
-  };
-
   template <class Attribute, class Found, class... Nth>
   aaa_attr_cerrno read(Attribute type, Found &found, Nth... nth) const {
     const void *value = nullptr;
