@@ -1,8 +1,5 @@
 #include "attr_text.h"
 
-#include <attrmgr/aaa_attr_dict.h>
-#include <attrmgr/aaa_attr_values.h>
-
 #include <algorithm>
 #include <optional>
 #include <string_view>
@@ -31,7 +28,7 @@ std::uint8_t named_number(const aaa_attr_value_table &table, std::string_view te
 
 std::uint16_t short_number(std::string_view text) { return static_cast<std::uint16_t>(required_number(text, 65535)); }
 
-void read_note_word(std::string_view word, aaa_attr_meta *meta) {
+void read_note_word(std::string_view word, attrmgr::meta *meta) {
   const std::size_t equals = std::min(word.find('='), word.size());
   const std::string_view key = word.substr(0, equals + 1);  // with its '=', if there is one
   const std::string_view value = word.substr(key.size());
@@ -50,8 +47,8 @@ void read_note_word(std::string_view word, aaa_attr_meta *meta) {
   }
 }
 
-aaa_attr_meta meta_from_note(std::string_view note) {
-  aaa_attr_meta meta = {};
+attrmgr::meta meta_from_note(std::string_view note) {
+  attrmgr::meta meta;
   while (!(note = trim(note)).empty()) {
     const std::string_view word = note.substr(0, note.find_first_of(kBlanks));
     read_note_word(word, &meta);
@@ -64,7 +61,7 @@ aaa_attr_meta meta_from_note(std::string_view note) {
 
 struct Line {
   std::string name;
-  std::optional<aaa_attr_meta> meta;
+  std::optional<attrmgr::meta> meta;
   std::string_view value;
 };
 
@@ -92,21 +89,15 @@ std::uint32_t type_of(const std::string &name) {
   throw unexpected("an attribute name or a type number from 1 to " + std::to_string(AAA_ATTR_TYPE_COUNT - 1), name);
 }
 
-void check_added(aaa_attr_cerrno code) {
-  if (code == AAA_ATTR_ERR_BAD_ARG) throw BadText("the value is too long: an attribute must fit 65,535 bytes");
-  if (code != 0) throw BadText(std::string("the attribute cannot be added: ") + aaa_attr_cerrno_name(code));
+void check_added(const attrmgr::result<void> &added) {
+  if (added.code() == AAA_ATTR_ERR_BAD_ARG) throw BadText("the value is too long: an attribute must fit 65,535 bytes");
+  if (!added) throw BadText(std::string("the attribute cannot be added: ") + added.message());
 }
 
 // ---- The whole text ----
 
 class ListBuilder {
  public:
-  ListBuilder() {
-    aaa_attr_list_handle handle = 0;
-    check_added(aaa_attr_list_alloc(&handle));
-    list_ = OwnedList(handle);
-  }
-
   void take_line(std::string_view text) {
     ++line_number_;
     text = trim(text);
@@ -119,7 +110,7 @@ class ListBuilder {
     }
   }
 
-  OwnedList finish() {
+  attrmgr::list finish() {
     if (groups_.empty()) return std::move(list_);
     throw BadText("expected '}' for the group opened on line " + std::to_string(groups_.back().opened) +
                   ", found the end of the file");
@@ -129,28 +120,29 @@ class ListBuilder {
 
  private:
   struct Group {
-    aaa_attr_list_handle list;
+    attrmgr::list_ref list;
     unsigned opened;
   };
 
   void add(const Line &line) {
     const std::uint32_t type = type_of(line.name);
-    const aaa_attr_meta *meta = line.meta ? &*line.meta : nullptr;
     const bool grouped = aaa_attr_get_format_from_type(type) == AAA_ATTR_FMT_GROUPED;
     if (grouped && line.value != "{") throw unexpected("'{', since " + quoted(line.name) + " is a group", line.value);
     if (!grouped && line.value == "{") throw BadText(quoted(line.name) + " is no group: expected a value, found '{'");
-    if (grouped) return open_group(type, meta);
+    if (grouped) return open_group(type, line);
     const Bytes value = value_from_text(type, line.value);
-    check_added(aaa_attr_add(innermost(), type, value.data(), static_cast<std::uint32_t>(value.size()), meta));
+    const auto bytes = std::as_bytes(std::span(value));
+    check_added(line.meta ? innermost().try_add_bytes(type, bytes, *line.meta)
+                          : innermost().try_add_bytes(type, bytes));
   }
 
   // The sub-list belongs to the list around it from the start, so that nothing is lost when a later line is bad.
-  void open_group(std::uint32_t type, const aaa_attr_meta *meta) {
+  void open_group(std::uint32_t type, const Line &line) {
     if (groups_.size() == AAA_ATTR_NESTING_MAX)
       throw BadText("groups nest too deep: no receiver takes more than " + std::to_string(AAA_ATTR_NESTING_MAX));
-    aaa_attr_list_handle sub_list = 0;
-    check_added(aaa_attr_add_group_list(innermost(), &sub_list, type, meta));
-    groups_.push_back({sub_list, line_number_});
+    attrmgr::list_ref around = innermost();
+    groups_.push_back(
+        {line.meta ? around.add_group_by_number(type, *line.meta) : around.add_group_by_number(type), line_number_});
   }
 
   void close_group(std::string_view text) {
@@ -159,16 +151,16 @@ class ListBuilder {
     groups_.pop_back();
   }
 
-  aaa_attr_list_handle innermost() const { return groups_.empty() ? list_.handle() : groups_.back().list; }
+  attrmgr::list_ref innermost() { return groups_.empty() ? attrmgr::list_ref(list_) : groups_.back().list; }
 
-  OwnedList list_;
+  attrmgr::list list_;
   std::vector<Group> groups_;
   unsigned line_number_ = 0;
 };
 
 }  // namespace
 
-std::variant<OwnedList, BadLine> list_from_text(std::istream &text) {
+std::variant<attrmgr::list, BadLine> list_from_text(std::istream &text) {
   ListBuilder builder;
   try {
     for (std::string line; std::getline(text, line);) builder.take_line(line);

@@ -13,11 +13,11 @@
 // note in brackets is its meta: service and protocol by name or number. values.h tells how values are written.
 #pragma once
 
+#include <attrmgr/attrmgr.hpp>
+
 #include <istream>
 #include <string>
 #include <variant>
-
-#include "owned_list.h"
 
 struct BadLine {
   unsigned line;
@@ -25,4 +25,4 @@ struct BadLine {
 };
 
 // The list that the text describes, or its first line that is no good.
-std::variant<OwnedList, BadLine> list_from_text(std::istream &text);
+std::variant<attrmgr::list, BadLine> list_from_text(std::istream &text);

@@ -43,27 +43,25 @@ void Channel::close() {
   if (socket_ >= 0) ::close(std::exchange(socket_, -1));
 }
 
-std::size_t Channel::send(const Bytes &message) {
-  return send(std::vector<iovec>{{const_cast<std::uint8_t *>(message.data()), message.size()}});
-}
+std::size_t Channel::send(Piece message) { return send(std::vector<Piece>{message}); }
 
-std::size_t Channel::send(const std::vector<iovec> &parts) {
+std::size_t Channel::send(const std::vector<Piece> &pieces) {
   std::size_t length = 0;
-  for (const iovec &part : parts) length += part.iov_len;
+  for (const Piece piece : pieces) length += piece.size();
   check_length(length);
   std::uint32_t header = htonl(static_cast<std::uint32_t>(length));
-  std::vector<iovec> message = {{&header, sizeof header}};
-  message.insert(message.end(), parts.begin(), parts.end());
-  write_all(std::move(message));
+  std::vector<iovec> parts = {{&header, sizeof header}};
+  for (const Piece piece : pieces) parts.push_back({const_cast<std::byte *>(piece.data()), piece.size()});
+  write_all(std::move(parts));
   return length;
 }
 
-Bytes Channel::receive() {
+Message Channel::receive() {
   std::uint32_t header = 0;
   read_all(&header, sizeof header);
   const std::size_t length = ntohl(header);
   check_length(length);
-  Bytes message(length);
+  Message message(length);
   read_all(message.data(), message.size());
   return message;
 }

@@ -4,10 +4,12 @@
 #include <sys/uio.h>
 
 #include <cstddef>
+#include <span>
 #include <utility>
 #include <vector>
 
-#include "values.h"
+using Message = std::vector<std::byte>;
+using Piece = std::span<const std::byte>;
 
 // One end. Sending and receiving throw std::runtime_error when the socket fails or the other end is gone.
 class Channel {
@@ -20,11 +22,11 @@ class Channel {
   ~Channel() { close(); }
   void close();
 
-  // Sends one message and returns its length. The second form sends the parts as they lie in memory.
-  std::size_t send(const Bytes &message);
-  std::size_t send(const std::vector<iovec> &parts);
+  // Sends one message and returns its length. The second form sends the pieces as they lie in memory.
+  std::size_t send(Piece message);
+  std::size_t send(const std::vector<Piece> &pieces);
 
-  Bytes receive();
+  Message receive();
 
  private:
   explicit Channel(int socket) : socket_(socket) {}

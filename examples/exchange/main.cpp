@@ -1,16 +1,16 @@
 // exchange FILE: reads attributes from a text file (attr_text.h) into a list and hands the list to a second process,
 // in turn as a flat buffer, as a gather list and as a TLV buffer. The second process rebuilds the list, prints it and
 // sends it back; the first compares.
-#include <attrmgr/attrmgr.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <attrmgr/attrmgr.hpp>
 
 #include <cerrno>
 #include <csignal>
-#include <cstdint>
 #include <cstdio>
 #include <exception>
 #include <fstream>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <system_error>
@@ -19,7 +19,6 @@
 
 #include "attr_text.h"
 #include "channel.h"
-#include "marshal.h"
 
 namespace {
 
@@ -41,19 +40,21 @@ void flush_output() {
 
 // ---- The sending process ----
 
-std::size_t send_list(Channel &channel, aaa_attr_list_handle list, Form form) {
-  if (form == Form::kFlat) return channel.send(flat_buffer(list));
-  if (form == Form::kGather) return channel.send(gather_list(list));
-  return channel.send(tlv_buffer(list));
+std::size_t send_list(Channel &channel, attrmgr::list &list, Form form) {
+  if (form == Form::kFlat) return channel.send(list.to_flat());
+  if (form == Form::kGather) {
+    const attrmgr::pieces pieces = list.to_pieces();
+    return channel.send(std::vector<Piece>(pieces.begin(), pieces.end()));
+  }
+  return channel.send(list.to_tlv());
 }
 
 // 0 when every list that came back equals the one that was sent.
-int run_sender(Channel &channel, aaa_attr_list_handle list) {
+int run_sender(Channel &channel, attrmgr::list &list) {
   int status = 0;
   for (const Form form : kForms) {
     const std::size_t size = send_list(channel, list, form);
-    const OwnedList returned = list_from_buffer(channel.receive());
-    const bool equal = aaa_attr_list_eq(list, returned.handle()) == 1;
+    const bool equal = attrmgr::list::from_bytes(channel.receive()) == list;
     std::printf("%s: %zu bytes, lists are %s\n", name_of(form), size, equal ? "equal" : "NOT equal");
     flush_output();
     if (!equal) status = kFailed;
@@ -65,11 +66,15 @@ int run_sender(Channel &channel, aaa_attr_list_handle list) {
 
 int run_receiver(Channel &channel) {
   for (const Form form : kForms) {
-    const Bytes message = channel.receive();
+    const Message message = channel.receive();
     std::printf("\n==== received as %s: %zu bytes ====\n", name_of(form), message.size());
-    if (form != Form::kTlv) std::printf("%u attributes, counted in the buffer as it lies\n", count_in_place(message));
-    const OwnedList list = list_from_buffer(message);
-    const Bytes answer = flat_buffer(list.handle());  // as received: printing clears bits behind an IPv6 prefix
+    if (form != Form::kTlv) {
+      // Bytes off a socket are untrusted: only a checked buffer can be read in place.
+      const attrmgr::flat_view in_place = attrmgr::flat_view::check(message);
+      std::printf("%td attributes, counted in the buffer as it lies\n", std::ranges::distance(in_place));
+    }
+    attrmgr::list list = attrmgr::list::from_bytes(message);  // checks by itself
+    const attrmgr::bytes answer = list.to_flat();             // as received: printing clears bits behind an IPv6 prefix
     aaa_attr_list_print(list.handle());
     flush_output();
     channel.send(answer);
@@ -80,16 +85,16 @@ int run_receiver(Channel &channel) {
 
 // ---- Both ----
 
-OwnedList read_file(const char *path) {
+std::optional<attrmgr::list> read_file(const char *path) {
   std::ifstream file(path);
   if (!file) throw std::system_error(errno, std::generic_category(), std::string("cannot open ") + path);
   auto read = list_from_text(file);
   if (file.bad()) throw std::runtime_error(std::string("cannot read ") + path);
   if (const auto *bad = std::get_if<BadLine>(&read)) {
     std::fprintf(stderr, "%s:%u: %s\n", path, bad->line, bad->reason.c_str());
-    return OwnedList();
+    return std::nullopt;
   }
-  return std::get<OwnedList>(std::move(read));
+  return std::get<attrmgr::list>(std::move(read));
 }
 
 int wait_for(pid_t child) {
@@ -110,18 +115,18 @@ int guarded(const char *side, Side run) {
   }
 }
 
-int exchange(OwnedList list) {
+int exchange(attrmgr::list list) {
   auto [sender, receiver] = Channel::open();
   std::fflush(stdout);  // what is still in the stream would be written by both processes
   const pid_t child = fork();
   if (child < 0) throw std::system_error(errno, std::generic_category(), "fork");
   if (child == 0) {
     sender.close();
-    list = OwnedList();  // fork left a copy of the sender's list here; the receiver knows only what it is sent
+    list = attrmgr::list();  // fork left a copy of the sender's list here; the receiver knows only what it is sent
     return guarded("receiver", [&channel = receiver] { return run_receiver(channel); });
   }
   receiver.close();
-  const int sent = guarded("sender", [&channel = sender, &list] { return run_sender(channel, list.handle()); });
+  const int sent = guarded("sender", [&channel = sender, &list] { return run_sender(channel, list); });
   sender.close();  // a receiver that still waits for a message ends now
   const int received = wait_for(child);
   return sent != 0 ? sent : received;
@@ -136,10 +141,8 @@ int main(int argc, char **argv) {
   }
   return guarded("exchange", [path = argv[1]] {
     std::signal(SIGPIPE, SIG_IGN);  // a receiver that is gone shows as an error of writing
-    const std::uint16_t client_ids[] = {1, 2};
-    if (const aaa_attr_cerrno code = aaa_attr_client_register("exchange", client_ids))
-      throw std::runtime_error(std::string("cannot register: ") + aaa_attr_cerrno_name(code));
-    OwnedList list = read_file(path);
-    return list.handle() == 0 ? kFailed : exchange(std::move(list));
+    attrmgr::register_client("exchange", 1, 2);
+    std::optional<attrmgr::list> list = read_file(path);
+    return list ? exchange(std::move(*list)) : kFailed;
   });
 }

@@ -3,6 +3,7 @@
 #include <arpa/inet.h>
 #include <attrmgr/aaa_attr_dict.h>
 #include <attrmgr/aaa_attr_marshal.h>
+#include <attrmgr/aaa_attr_names.h>
 
 #include <charconv>
 #include <cstring>
@@ -11,9 +12,6 @@
 #include <limits>
 
 namespace {
-
-constexpr std::uint32_t kTypePrefix = 224;           // "prefix"
-constexpr std::uint32_t kTypeDelegatedPrefix = 336;  // "delegated-prefix"
 
 template <class Number>
 std::optional<Number> whole_number(std::string_view digits, int base = 10) {
@@ -93,11 +91,10 @@ Bytes number_value(std::string_view text) {
 
 Bytes enum_value(std::uint32_t type, std::string_view text) {
   const std::string wanted = plain_text(text);
+  std::uint32_t value = 0;
+  if (aaa_attr_get_value_from_enum_name(type, wanted.c_str(), &value) == 0) return bytes_of(value);
   const char *last = "";
-  for (std::uint32_t value = 0; const char *name = aaa_attr_get_enum_name_from_type(type, value); ++value) {
-    if (wanted == name) return bytes_of(value);
-    last = name;
-  }
+  while (const char *name = aaa_attr_get_enum_name_from_type(type, value++)) last = name;
   const auto number = number_from_text(wanted, std::numeric_limits<std::uint32_t>::max());
   if (!number) throw unexpected("a number or a value name such as " + quoted(last), wanted);
   return bytes_of(static_cast<std::uint32_t>(*number));
@@ -139,7 +136,7 @@ Bytes prefix_value(std::string_view text) {
 }
 
 Bytes binary_value(std::uint32_t type, std::string_view text) {
-  const bool takes_prefix = type == kTypePrefix || type == kTypeDelegatedPrefix;
+  const bool takes_prefix = type == AAA_ATTR_TYPE_PREFIX || type == AAA_ATTR_TYPE_DELEGATED_PREFIX;
   if (takes_prefix && text.find('/') != std::string_view::npos) return prefix_value(text);
   if (const auto bytes = hex_bytes(text)) return *bytes;
   throw unexpected("pairs of hexadecimal digits", text);

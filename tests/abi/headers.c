@@ -21,3 +21,13 @@ _Static_assert(AAA_ATTR_FMT_STRING_ATTR == 10 && AAA_ATTR_FMT_OPAQUE == 13 && AA
                    AAA_ATTR_FMT_IP_FILTER_RULE == 21 && AAA_ATTR_FMT_QOS_FILTER_RULE == 22,
                "formats that no type has");
 _Static_assert(AAA_ATTR_TYPE_OPAQUE == 4 && AAA_ATTR_TYPE_NO_AUTHOR == 8 && AAA_ATTR_NESTING_MAX == 128, "flags");
+_Static_assert(AAA_ATTR_TYPE_USERNAME == 197 && AAA_ATTR_TYPE_CLASS == 173 && AAA_ATTR_TYPE_OR == 346 &&
+                   AAA_ATTR_TYPE_SESSION_ID == 180 && AAA_ATTR_TYPE_SESSION_ID_STRING == 451 &&
+                   AAA_ATTR_TYPE_INPUT_OCTETS == 453 && AAA_ATTR_TYPE_INPUT_OCTETS_2 == 455 &&
+                   AAA_ATTR_TYPE_PREPAID_ASSIGNED_POOL_GROUPED == 475 && AAA_ATTR_TYPE_ND_RA_INITIAL == 622,
+               "type constants, those of shared names too");
+_Static_assert(AAA_ACCT_STATUS_TYPE_STOP == 2 && AAA_TERMINATION_CAUSE_NONE == 0 &&
+                   AAA_TERMINATION_CAUSE_NONE_10 == 10 && AAA_IP_CAN_TYPE_3GPP_EPS == 5 &&
+                   AAA_PORT_TYPE_VIRTUAL_PPPOE_OVER_QINQ == 37 && AAA_DISCONNECT_CAUSE_ENUM_REBOOTING == 0 &&
+                   sizeof(aaa_acct_status_type) == 4,
+               "value constants, those of names that come back too");

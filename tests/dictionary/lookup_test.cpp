@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <tuple>
 
 #include "support/lists.h"
 
@@ -41,6 +42,33 @@ TEST(Lookup, Values) {
   for (std::uint32_t value = 0; value < value_interface_type.count + 2; ++value)
     EXPECT_STREQ(aaa_attr_get_interface_from_type(value), value <= 43 ? name_interface_type[value] : "unknown")
         << value;
+}
+
+TEST(Lookup, ValuesByName) {
+  const std::tuple<const char *, std::uint32_t, const char *, std::uint32_t> rows[] = {
+      {"a value", AAA_ATTR_TYPE_ACCT_STATUS_TYPE, "Stop", AAA_ACCT_STATUS_TYPE_STOP},
+      {"the last of a table", AAA_ATTR_TYPE_CONNECT_PROGRESS, "Session lcp open forwarded", 253},
+      {"a placeholder", AAA_ATTR_TYPE_ACCT_STATUS_TYPE, "noval4", 4},
+      {"the lowest of three", AAA_ATTR_TYPE_TERMINATION_CAUSE, "none", 0},
+      {"a trailing blank counts", AAA_ATTR_TYPE_PORT_TYPE, "Virtual PPPoE over QinQ ", 37},
+  };
+  for (const auto &[why, type, name, expected] : rows) {
+    std::uint32_t value = 4711;
+    EXPECT_EQ(aaa_attr_get_value_from_enum_name(type, name, &value), 0u) << why;
+    EXPECT_EQ(value, expected) << why;
+  }
+  const std::tuple<const char *, std::uint32_t, const char *> misses[] = {
+      {"another case", AAA_ATTR_TYPE_ACCT_STATUS_TYPE, "stop"},
+      {"the beginning of a name", AAA_ATTR_TYPE_ACCT_STATUS_TYPE, "Sto"},
+      {"no name", AAA_ATTR_TYPE_ACCT_STATUS_TYPE, ""},
+      {"no Enum type", AAA_ATTR_TYPE_USERNAME, "Stop"},
+      {"no type", AAA_ATTR_TYPE_COUNT, "Stop"},
+  };
+  for (const auto &[why, type, name] : misses) {
+    std::uint32_t value = 4711;
+    EXPECT_EQ(aaa_attr_get_value_from_enum_name(type, name, &value), AAA_ATTR_ERR_NOT_FOUND) << why;
+    EXPECT_EQ(value, 4711u) << why << ": the value stays as it was";
+  }
 }
 
 TEST(LiSet, TypesWhateverTheFlagTextsWhileItIsClear) {

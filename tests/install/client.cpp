@@ -1,18 +1,17 @@
-// A cursor over a list, in C++. Exit status 0 when it sees what was added.
-#include <attrmgr/attrmgr.h>
+// A list through a buffer and back, in C++. Exit status 0 when it sees what was added.
+#include <attrmgr/attrmgr.hpp>
 
-#include <cstdint>
+namespace attr = attrmgr::attr;
 
 int main() {
-  aaa_attr_list_handle list = 0;
-  aaa_cursor *cursor = nullptr;
-  const std::uint32_t start = 1;
-  if (aaa_attr_list_alloc(&list) != 0 || aaa_attr_add(list, 3, &start, sizeof start, nullptr) != 0) return 1;
-  std::uint32_t value = 0;
-  const bool seen = aaa_cursor_alloc(list, &cursor) == 0 && aaa_cursor_get_next(cursor) == 3 &&
-                    aaa_cursor_get_uint32_t(cursor, &value) == 0 && value == start &&
+  attrmgr::list sent;
+  sent.add(attr::acct_status_type, "Start");
+  sent.add_group(attr::subscription_id).add(attr::subscription_id_data, "100-2277");
+  const attrmgr::bytes message = sent.to_flat();
+  const attrmgr::flat_view in_place = attrmgr::flat_view::check(message);
+  const attrmgr::list received = attrmgr::list::from_bytes(message);
+  const bool seen = in_place.get(attr::acct_status_type) == AAA_ACCT_STATUS_TYPE_START &&
+                    received.get(attr::subscription_id)->get(attr::subscription_id_data) == "100-2277" &&
                     name_acct_status_type[1] != nullptr;
-  aaa_cursor_free(cursor);
-  aaa_attr_list_free(list);
   return seen ? 0 : 1;
 }

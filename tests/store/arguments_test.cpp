@@ -27,6 +27,10 @@ TEST(Arguments, NullsAreRefusedBeforeTheHandle) {
                        aaa_cursor_alloc_from_buffer(&value, nullptr), aaa_cursor_grouped_alloc(nullptr, nullptr),
                        aaa_cursor_reset(nullptr), aaa_cursor_list_add_attr(l, nullptr)),
               " 86 86 86 86 86 86");
+    EXPECT_EQ(in_short(aaa_attr_get_value_from_enum_name(type::kEnum, nullptr, &length),
+                       aaa_attr_get_value_from_enum_name(type::kEnum, "Stop", nullptr),
+                       aaa_attr_get_value_from_enum_name(AAA_ATTR_TYPE_COUNT, nullptr, &length)),
+              " 86 86 86");
     EXPECT_EQ(in_short(is_aaa_attr_list_empty(l, nullptr), aaa_attr_get_nth(l, kString, nullptr, &length, 0),
                        aaa_attr_get_nth(l, kString, &value, nullptr, 0)),
               " 8a 8e 8e");

@@ -4,6 +4,7 @@
 
 #include <stdint.h>
 
+#include <attrmgr/aaa_attr_types.h>
 #include <attrmgr/aaa_export.h>
 
 AAA_BEGIN_DECLS
@@ -49,6 +50,10 @@ AAA_API const char *aaa_attr_get_format_string(uint32_t format);
 
 /* The name of a value of an Enum type; null when it has none, or for any other type. */
 AAA_API const char *aaa_attr_get_enum_name_from_type(uint32_t type, uint32_t value);
+
+/* *value: the value of an Enum type that has the name, compared byte for byte; the lowest where a name comes back.
+   AAA_ATTR_ERR_BAD_ARG: name or value null. AAA_ATTR_ERR_NOT_FOUND: no value has the name, or the type is no Enum. */
+AAA_API aaa_attr_cerrno aaa_attr_get_value_from_enum_name(uint32_t type, const char *name, uint32_t *value);
 
 /* The name of an interface type of 0 to 43; "unknown" for any other. */
 AAA_API const char *aaa_attr_get_interface_from_type(uint32_t value);

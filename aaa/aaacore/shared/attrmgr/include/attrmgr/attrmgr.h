@@ -6,6 +6,7 @@
 #include <attrmgr/aaa_attr_dict.h>    /* attribute types, formats, names */
 #include <attrmgr/aaa_attr_display.h> /* lists as text */
 #include <attrmgr/aaa_attr_marshal.h> /* lists as bytes */
+#include <attrmgr/aaa_attr_names.h>   /* constants for all types and values */
 #include <attrmgr/aaa_attr_types.h>   /* result codes, handles, attribute meta */
 #include <attrmgr/aaa_attr_values.h>  /* value names and authorization bitmaps */
 #include <attrmgr/aaa_cursor.h>       /* walking lists and buffers */

@@ -27,6 +27,22 @@ const char *aaa_attr_get_enum_name_from_type(std::uint32_t type, std::uint32_t v
   return row != nullptr ? value_name(*row, value) : nullptr;
 }
 
+aaa_attr_cerrno aaa_attr_get_value_from_enum_name(std::uint32_t type, const char *name, std::uint32_t *value) {
+  if (name == nullptr || value == nullptr) return AAA_ATTR_ERR_BAD_ARG;
+  const TypeRow *row = row_of(type);
+  if (row == nullptr) return AAA_ATTR_ERR_NOT_FOUND;
+  const std::string_view wanted = name;
+  std::uint32_t reached = 0;
+  while (const char *known = value_name(*row, reached)) {
+    if (wanted == known) {
+      *value = reached;
+      return 0;
+    }
+    ++reached;
+  }
+  return AAA_ATTR_ERR_NOT_FOUND;
+}
+
 const char *aaa_attr_get_interface_from_type(std::uint32_t value) {
   // The table has more names; the three behind this one are reached through the table only.
   constexpr std::uint32_t kLastInterface = 43;
