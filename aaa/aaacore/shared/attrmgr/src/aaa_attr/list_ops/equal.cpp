@@ -65,7 +65,7 @@ constexpr std::size_t kValueEntries = 2048;
 constexpr std::size_t kGroupEntries = 2048;
 
 // What the levels of a comparison share. Values need their window only while no sub-list is compared, so that each
-// level has all of it; the windows of groups stay, and each level leaves half of what it finds to those below it.
+// level has all of it; the windows of groups stay, and each level leaves a quarter of what it finds to those below it.
 struct Windows {
   WindowSpace<kValueEntries> values;
   WindowSpace<kGroupEntries> groups;

@@ -35,8 +35,8 @@ bool FlatReader<Form, kRules>::check_header() {
 
 template <class Form, FlatRules kRules>
 bool FlatReader<Form, kRules>::enter_list() {
-  // The translation takes a block that is no head for a list of its own, and a buffer whose head counts no blocks for one
-  // without any.
+  // The translation takes a block that is no head for a list of its own, and a buffer whose head counts no blocks for
+  // one without any.
   const bool head = block_.has(kBlockHead);
   const std::uint16_t blocks = head ? block_.block_count() : 1;
   if (!head && kRules != FlatRules::kWhole) return false;
