@@ -77,7 +77,7 @@ void register_thread() {
 bool add_chunk() {
   if (num_chunks == kChunksMax) return false;
   // From the heap, where leak checkers look for the addresses of what is in use.
-  Chunk *chunk = new (std::nothrow) Chunk();
+  auto *chunk = new (std::nothrow) Chunk();
   if (chunk == nullptr) return false;
   attrmgr_checked_slots.chunks[num_chunks].store(chunk, std::memory_order_release);
   for (std::uint32_t i = 0; i < kSlotsPerChunk; ++i) shared.push(num_chunks * kSlotsPerChunk + i);
