@@ -128,7 +128,7 @@ struct HashClass {
 template <class Kind>
 class SetComparison {
  public:
-  SetComparison(BlockView list1, BlockView list2, const Kind &kind, RecordWindow window)
+  SetComparison(BlockView list1, BlockView list2, const Kind &kind, const RecordWindow &window)
       : list1_(list1), list2_(list2), kind_(kind), window_(window) {}
 
   bool equal(HashClass hashes = {}) {
