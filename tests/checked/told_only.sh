@@ -8,7 +8,8 @@ shift 2
 report=$(mktemp)
 trap 'rm -f "$report"' EXIT
 
-ATTRMGR_CHECKED=lines=0,report=$report LD_PRELOAD=$checked "$@"
+# By name, for the loader takes a space in LD_PRELOAD for the end of a path.
+ATTRMGR_CHECKED=lines=0,report=$report LD_LIBRARY_PATH=$(dirname "$checked") LD_PRELOAD=$(basename "$checked") "$@"
 
 # Headlines alone are not indented.
 headlines=$(grep -v ']:  ' "$report" | sed -E 's/^[^:]*: [0-9]+ uses? of //')
