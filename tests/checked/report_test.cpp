@@ -34,7 +34,11 @@ Outcome run(const std::string &command) {
 // What puts the table in front of a program that is not linked with it: the test runs with both ways.
 std::string preload() {
   const char *table = std::getenv("PRELOADED_TABLE");
-  return table != nullptr ? std::string("LD_PRELOAD=") + table + " " : "";
+  if (table == nullptr) return "";
+  // By name, for the loader takes a space in LD_PRELOAD for the end of a path.
+  const std::string path = table;
+  const std::size_t slash = path.rfind('/');
+  return "LD_LIBRARY_PATH='" + path.substr(0, slash) + "' LD_PRELOAD='" + path.substr(slash + 1) + "' ";
 }
 
 // The report of `misuse kind` on the standard error stream.

@@ -128,8 +128,11 @@ def main():
     wanted = commands(by_section[None])
     # The folders of another place than /usr have to be known before anything is compiled.
     wanted = wanted[:1] + wanted[3:] + wanted[1:3]
-    with tempfile.TemporaryDirectory(prefix="attrmgr debugging ") as folder:
-        run_all(wanted + commands(by_section[story]), prefix, folder)
+    with tempfile.TemporaryDirectory(prefix="attrmgr debugging ") as folder, tempfile.TemporaryDirectory() as plain:
+        # The page does not quote the prefix, which has no space where a package puts it.
+        link = pathlib.Path(plain, "prefix")
+        link.symlink_to(prefix)
+        run_all(wanted + commands(by_section[story]), str(link), folder)
 
 
 if __name__ == "__main__":

@@ -14,7 +14,7 @@ cd "$work"
 libdir=$(dirname "$(find "$prefix" -name libattrmgr.so)")
 "$cc" -g -O0 "$here/views_client.c" -o client -I"$prefix/include" -L"$libdir" -lattrmgr -Wl,-rpath,"$libdir"
 preload=''
-if [ "$table" = checked ]; then preload=$libdir/libattrmgr_checked.so; fi
+if [ "$table" = checked ]; then preload=libattrmgr_checked.so; fi  # found by the client's run path
 
 # A copy without any debug information makes the same core file.
 views=(gdb -q -nx -batch -iex "add-auto-load-safe-path $prefix"
