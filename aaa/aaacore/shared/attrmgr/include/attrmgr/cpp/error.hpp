@@ -109,15 +109,9 @@ inline void check(aaa_attr_cerrno code, const char *operation, std::uint32_t typ
     raise(code, operation, type);
 }
 
-}  // namespace detail
-
-// What a try_ form returns, and its caller has to look at: a value, or the code of the failure.
-template <class T>
-class [[nodiscard]] result {
+// Whether a call succeeded, and why not.
+class outcome {
  public:
-  result(T value) : value_(std::move(value)) {}
-  result(errc code) : code_(static_cast<aaa_attr_cerrno>(code)) {}
-
   bool ok() const noexcept { return code_ == 0; }
   explicit operator bool() const noexcept { return ok(); }
 
@@ -129,10 +123,27 @@ class [[nodiscard]] result {
   // The failure as a sentence.
   const char *message() const noexcept { return ok() ? "success" : detail::sentence(static_cast<errc>(code_)); }
 
+ protected:
+  outcome() = default;
+  explicit outcome(errc code) : code_(static_cast<aaa_attr_cerrno>(code)) {}
+
+ private:
+  aaa_attr_cerrno code_ = 0;
+};
+
+}  // namespace detail
+
+// What a try_ form returns, and its caller has to look at: a value, or the code of the failure.
+template <class T>
+class [[nodiscard]] result : public detail::outcome {
+ public:
+  result(T value) : value_(std::move(value)) {}
+  result(errc code) : outcome(code) {}
+
   // The value; throws attrmgr::error when there is none.
-  T &value() & { return detail::check(code_, "use the value of a failed call"), *value_; }
-  const T &value() const & { return detail::check(code_, "use the value of a failed call"), *value_; }
-  T &&value() && { return detail::check(code_, "use the value of a failed call"), *std::move(value_); }
+  T &value() & { return detail::check(code(), "use the value of a failed call"), *value_; }
+  const T &value() const & { return detail::check(code(), "use the value of a failed call"), *value_; }
+  T &&value() && { return detail::check(code(), "use the value of a failed call"), *std::move(value_); }
 
   // The same unchecked, after ok().
   T &operator*() & { return *value_; }
@@ -143,25 +154,13 @@ class [[nodiscard]] result {
 
  private:
   std::optional<T> value_;
-  aaa_attr_cerrno code_ = 0;
 };
 
 template <>
-class [[nodiscard]] result<void> {
+class [[nodiscard]] result<void> : public detail::outcome {
  public:
   result() = default;
-  result(errc code) : code_(static_cast<aaa_attr_cerrno>(code)) {}
-
-  bool ok() const noexcept { return code_ == 0; }
-  explicit operator bool() const noexcept { return ok(); }
-  aaa_attr_cerrno code() const noexcept { return code_; }
-  std::error_code error_code() const noexcept {
-    return ok() ? std::error_code() : make_error_code(static_cast<errc>(code_));
-  }
-  const char *message() const noexcept { return ok() ? "success" : detail::sentence(static_cast<errc>(code_)); }
-
- private:
-  aaa_attr_cerrno code_ = 0;
+  result(errc code) : outcome(code) {}
 };
 
 namespace detail {
