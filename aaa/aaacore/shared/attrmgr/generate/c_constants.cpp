@@ -19,7 +19,7 @@ constexpr char kHead[] =
      AAA_ATTR_TYPE_USERNAME        the type "username"
      AAA_ACCT_STATUS_TYPE_STOP     the value "Stop" of the type "Acct-Status-Type"
 
-   Where two types would get the same constant, the lower one has it; the other has its format behind it, or a number.
+   Where two types would get the same constant, the lower one has it; the other has its format after it, or a number.
    Values are unsigned 32-bit numbers, to be handed to aaa_attr_add as such:
 
      const uint32_t status = AAA_ACCT_STATUS_TYPE_STOP;
