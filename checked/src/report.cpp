@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-#include "list_survey.h"
+#include "lists_in_use.h"
 #include "options.h"
 #include "place.h"
 
@@ -106,13 +106,13 @@ void put_callers(Text &text, Places &place, std::span<const void *const> calls) 
 
 struct Group {
   std::vector<const void *> calls;
-  std::vector<const SurveyedList *> lists;
+  std::vector<const ListInUse *> lists;
   std::uint64_t attributes = 0;
 };
 
-std::vector<Group> by_caller(const std::vector<SurveyedList> &lists) {
+std::vector<Group> by_caller(const std::vector<ListInUse> &lists) {
   std::map<std::vector<const void *>, Group> groups;
-  for (const SurveyedList &list : lists) {
+  for (const ListInUse &list : lists) {
     if (list.sub_list) continue;  // the list that it belongs to is told of
     Group &group = groups[list.calls];
     group.calls = list.calls;
@@ -127,16 +127,16 @@ std::vector<Group> by_caller(const std::vector<SurveyedList> &lists) {
   return sorted;
 }
 
-void put_list(Text &text, const SurveyedList &list) {
+void put_list(Text &text, const ListInUse &list) {
   text.line("    0x%llx: %llu attribute%s%s%s%s", wide(list.handle), wide(list.attributes), plural(list.attributes),
             list.names.empty() ? "" : ": ", list.names.c_str(), list.damaged ? "; damaged from there on" : "");
 }
 
 std::uint32_t put_lists(Text &text, Places &place, When when) {
-  const std::vector<SurveyedList> lists = survey_lists();
+  const std::vector<ListInUse> lists = lists_in_use();
   if (lists.empty()) return 0;
   const auto sub_lists = static_cast<std::size_t>(
-      std::count_if(lists.begin(), lists.end(), [](const SurveyedList &list) { return list.sub_list; }));
+      std::count_if(lists.begin(), lists.end(), [](const ListInUse &list) { return list.sub_list; }));
   const std::size_t outer = lists.size() - sub_lists;
   text.line("%zu list%s %s, with %zu sub-list%s", outer, plural(outer),
             when == When::kAtExit ? "never freed" : "in use", sub_lists, plural(sub_lists));

@@ -2,10 +2,10 @@
 #include <attrmgr/aaa_cursor.h>
 
 #include "aaa_attr/cursor/pooled_cursor.h"
-#include "aaa_attr/frame/cursor_pool.h"
 #include "aaa_attr/store/handle_check.h"
 #include "aaa_attr/store/sub_list.h"
 #include "aaa_attr/walk/cursor_step.h"
+#include "platform/cursor_pool.h"
 
 namespace attrmgr {
 

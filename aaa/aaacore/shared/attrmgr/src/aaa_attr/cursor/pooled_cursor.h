@@ -5,7 +5,7 @@
 
 #include <attrmgr/aaa_cursor.h>
 
-#include "aaa_attr/frame/cursor_pool.h"
+#include "platform/cursor_pool.h"
 
 namespace attrmgr {
 

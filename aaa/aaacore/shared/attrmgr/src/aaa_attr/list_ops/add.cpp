@@ -1,8 +1,8 @@
 // Adding attributes and sub-lists.
 #include <attrmgr/aaa_attr.h>
 
-#include "aaa_attr/list_ops/add.h"
-#include "aaa_attr/list_ops/release.h"
+#include "aaa_attr/list_ops/free.h"
+#include "aaa_attr/store/add_attribute.h"
 #include "aaa_attr/store/list_blocks.h"
 
 namespace {

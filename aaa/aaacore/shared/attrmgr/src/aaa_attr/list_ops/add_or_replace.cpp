@@ -4,9 +4,9 @@
 
 #include <attrmgr/aaa_attr.h>
 
-#include "aaa_attr/list_ops/add.h"
-#include "aaa_attr/list_ops/release.h"
-#include "aaa_attr/list_ops/search.h"
+#include "aaa_attr/list_ops/find.h"
+#include "aaa_attr/list_ops/free.h"
+#include "aaa_attr/store/add_attribute.h"
 #include "aaa_attr/store/handle_check.h"
 #include "aaa_attr/store/sub_list.h"
 

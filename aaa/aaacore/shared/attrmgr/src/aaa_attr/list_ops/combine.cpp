@@ -9,7 +9,7 @@
 
 #include "aaa_attr/list_ops/add_or_replace.h"
 #include "aaa_attr/list_ops/copy.h"
-#include "aaa_attr/list_ops/release.h"
+#include "aaa_attr/list_ops/free.h"
 #include "aaa_attr/list_ops/remove.h"
 #include "aaa_attr/store/append.h"
 #include "aaa_attr/store/handle_check.h"

@@ -6,7 +6,7 @@
 
 #include <attrmgr/aaa_attr.h>
 
-#include "aaa_attr/list_ops/release.h"
+#include "aaa_attr/list_ops/free.h"
 #include "aaa_attr/store/handle_check.h"
 #include "aaa_attr/store/list_blocks.h"
 #include "aaa_attr/store/sub_list.h"

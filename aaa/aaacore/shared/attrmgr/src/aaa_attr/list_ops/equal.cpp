@@ -8,7 +8,7 @@
 // would double the work.
 #include <attrmgr/aaa_attr.h>
 
-#include "aaa_attr/list_ops/contents.h"
+#include "aaa_attr/list_ops/contents_hash.h"
 #include "aaa_attr/list_ops/match.h"
 #include "aaa_attr/list_ops/record_window.h"
 #include "aaa_attr/store/handle_check.h"

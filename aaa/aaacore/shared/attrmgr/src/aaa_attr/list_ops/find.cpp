@@ -2,7 +2,7 @@
 #include <attrmgr/aaa_attr.h>
 #include <attrmgr/aaa_attr_dict.h>
 
-#include "aaa_attr/list_ops/search.h"
+#include "aaa_attr/list_ops/find.h"
 #include "aaa_attr/store/attribute.h"
 #include "aaa_attr/store/handle_check.h"
 

@@ -9,9 +9,9 @@
 #include <cstring>
 #include <utility>
 
-#include "aaa_attr/store/list_blocks.h"
 #include "aaa_attr/store/unwritten.h"
 #include "aaa_attr/store/views.h"
+#include "aaa_attr/walk/blocks.h"
 
 namespace attrmgr {
 

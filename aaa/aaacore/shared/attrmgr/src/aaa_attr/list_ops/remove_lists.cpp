@@ -11,6 +11,7 @@
 #include "aaa_attr/list_ops/remove.h"
 #include "aaa_attr/list_ops/type_set.h"
 #include "aaa_attr/store/handle_check.h"
+#include "aaa_attr/store/list_blocks.h"
 #include "aaa_attr/walk/cursor_step.h"
 #include "aaa_attr/walk/list_walk.h"
 

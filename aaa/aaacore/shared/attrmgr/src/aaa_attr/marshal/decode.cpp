@@ -1,7 +1,7 @@
 // Received buffers become lists, by their marker.
 #include <attrmgr/aaa_attr_marshal.h>
 
-#include "aaa_attr/list_ops/release.h"
+#include "aaa_attr/list_ops/free.h"
 #include "aaa_attr/marshal/flat_decode.h"
 #include "aaa_attr/marshal/tlv_decode.h"
 #include "aaa_attr/store/list_blocks.h"

@@ -5,7 +5,7 @@
 
 #include <attrmgr/aaa_attr_marshal.h>
 
-#include "aaa_attr/marshal/coalesce.h"
+#include "aaa_attr/list_ops/coalesce.h"
 #include "aaa_attr/marshal/flat_order.h"
 #include "aaa_attr/store/unwritten.h"
 

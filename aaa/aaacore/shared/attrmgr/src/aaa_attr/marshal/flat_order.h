@@ -5,8 +5,8 @@
 #include <attrmgr/aaa_attr_types.h>
 
 #include "aaa_attr/store/handle_check.h"
-#include "aaa_attr/store/list_blocks.h"
 #include "aaa_attr/store/sub_list.h"
+#include "aaa_attr/walk/blocks.h"
 #include "aaa_attr/walk/record_scan.h"
 
 namespace attrmgr {

@@ -2,7 +2,7 @@
 
 #include <attrmgr/aaa_attr_dict.h>
 
-#include "aaa_attr/list_ops/release.h"
+#include "aaa_attr/list_ops/free.h"
 #include "aaa_attr/marshal/tlv_format.h"
 #include "aaa_attr/store/append.h"
 

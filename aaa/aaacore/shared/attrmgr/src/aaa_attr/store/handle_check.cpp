@@ -2,8 +2,8 @@
 
 #include <attrmgr/aaa_platform.h>
 
-#include "aaa_attr/frame/client.h"
 #include "aaa_attr/store/list_blocks.h"
+#include "platform/handle_table.h"
 
 namespace attrmgr {
 namespace {

@@ -3,8 +3,8 @@
 
 #include <attrmgr/aaa_attr_types.h>
 
-#include "aaa_attr/frame/handle_table.h"
 #include "aaa_attr/store/views.h"
+#include "platform/handle_table.h"
 
 namespace attrmgr {
 

@@ -6,8 +6,8 @@
 
 #include <attrmgr/aaa_platform.h>
 
-#include "aaa_attr/frame/client.h"
 #include "aaa_attr/store/handle_check.h"
+#include "platform/handle_table.h"
 
 const std::uint16_t aaa_attr_chunk_size = attrmgr::kBlockSize;
 

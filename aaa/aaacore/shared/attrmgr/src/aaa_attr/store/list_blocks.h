@@ -56,34 +56,6 @@ inline BlockView last_block(BlockView head) {
   return last;
 }
 
-// What a range-based for over a walk ends with.
-struct WalkEnd {};
-
-// for (BlockView block : Blocks(head))
-class Blocks {
- public:
-  class Iterator {
-   public:
-    explicit Iterator(BlockView block) : block_(block) {}
-    BlockView operator*() const { return block_; }
-    Iterator &operator++() {
-      block_ = block_.next();
-      return *this;
-    }
-    bool operator!=(WalkEnd) const { return static_cast<bool>(block_); }
-
-   private:
-    BlockView block_;
-  };
-
-  explicit Blocks(BlockView head) : head_(head) {}
-  Iterator begin() const { return Iterator(head_); }
-  WalkEnd end() const { return {}; }
-
- private:
-  BlockView head_;
-};
-
 }  // namespace attrmgr
 
 // The code address that called the exported function in which this stands.

@@ -7,8 +7,8 @@
 // Records appended to the block that a walk stands in are not visited; removing the current record is safe.
 #pragma once
 
-#include "aaa_attr/store/list_blocks.h"
 #include "aaa_attr/store/views.h"
+#include "aaa_attr/walk/blocks.h"
 #include "aaa_attr/walk/record_scan.h"
 
 namespace attrmgr {

@@ -7,6 +7,7 @@
 // a walk and changes no answer.
 #pragma once
 
+#include "aaa_attr/store/list_blocks.h"
 #include "aaa_attr/walk/list_walk.h"
 
 namespace attrmgr {

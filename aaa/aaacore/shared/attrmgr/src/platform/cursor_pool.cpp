@@ -1,4 +1,4 @@
-#include "aaa_attr/frame/cursor_pool.h"
+#include "platform/cursor_pool.h"
 
 #include <pthread.h>
 

@@ -1,18 +1,18 @@
 // Sub-lists are not freed by recursion. From the first block that holds Grouped records on, the chain of blocks first
 // grows at its end by the chain of each sub-list that a block owns, and only then the blocks go. However deep lists
 // nest, the stack stays small; whatever names a list twice, it goes once.
-#include "aaa_attr/list_ops/release.h"
+#include "aaa_attr/list_ops/free.h"
 
 #include <cstdio>
 
 #include <attrmgr/aaa_attr.h>
 #include <attrmgr/aaa_platform.h>
 
-#include "aaa_attr/frame/client.h"
 #include "aaa_attr/store/handle_check.h"
 #include "aaa_attr/store/list_blocks.h"
 #include "aaa_attr/store/sub_list.h"
 #include "aaa_attr/walk/list_walk.h"
+#include "platform/handle_table.h"
 
 namespace attrmgr {
 namespace {

@@ -1,10 +1,11 @@
-#include "aaa_attr/marshal/coalesce.h"
+#include "aaa_attr/list_ops/coalesce.h"
 
 #include <cstring>
 
 #include "aaa_attr/store/handle_check.h"
 #include "aaa_attr/store/list_blocks.h"
 #include "aaa_attr/store/sub_list.h"
+#include "aaa_attr/walk/blocks.h"
 #include "aaa_attr/walk/record_scan.h"
 
 namespace attrmgr {

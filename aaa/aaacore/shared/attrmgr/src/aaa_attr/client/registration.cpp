@@ -1,9 +1,10 @@
-#include "aaa_attr/frame/client.h"
-
+// Registering the client process.
 #include <cstring>
 
 #include <attrmgr/aaa_attr.h>
 #include <attrmgr/aaa_platform.h>
+
+#include "platform/handle_table.h"
 
 namespace attrmgr {
 namespace {
@@ -21,9 +22,6 @@ struct Client {
 } client;
 
 }  // namespace
-
-std::uint16_t handle_table_number = 0;
-
 }  // namespace attrmgr
 
 using namespace attrmgr;

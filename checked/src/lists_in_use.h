@@ -8,7 +8,7 @@
 
 namespace attrmgr::checked {
 
-struct SurveyedList {
+struct ListInUse {
   std::uint64_t handle;
   std::vector<const void *> calls;  // the call that made the list, and what called that, as far as is known
   std::uint64_t attributes;         // removed ones left out
@@ -18,6 +18,6 @@ struct SurveyedList {
 };
 
 // Every list of the process.
-std::vector<SurveyedList> survey_lists();
+std::vector<ListInUse> lists_in_use();
 
 }  // namespace attrmgr::checked

@@ -2,9 +2,9 @@
 #include <attrmgr/aaa_attr.h>
 #include <attrmgr/aaa_platform.h>
 
-#include "aaa_attr/frame/client.h"
 #include "aaa_attr/store/handle_check.h"
 #include "aaa_attr/store/list_blocks.h"
+#include "platform/handle_table.h"
 
 using namespace attrmgr;
 

@@ -1,21 +1,12 @@
-// Making lists and asking after their state.
+// What state a list is in: valid or not, empty or not, how many records.
 #include <attrmgr/aaa_attr.h>
 
 #include "aaa_attr/cursor/pooled_cursor.h"
 #include "aaa_attr/store/handle_check.h"
-#include "aaa_attr/store/list_blocks.h"
 #include "aaa_attr/walk/cursor_step.h"
 #include "aaa_attr/walk/list_walk.h"
 
 using namespace attrmgr;
-
-aaa_attr_cerrno aaa_attr_list_alloc(aaa_attr_list_handle *list) {
-  if (list == nullptr) return AAA_ATTR_ERR_BAD_ARG;
-  List made;
-  const aaa_attr_cerrno code = create_list(ATTRMGR_CALLER, &made);
-  *list = made.handle;
-  return code;
-}
 
 int is_aaa_attr_list_valid(aaa_attr_list_handle list, aaa_attr_cerrno *code) {
   if (code == nullptr) return 0;

@@ -1,4 +1,4 @@
-#include "list_survey.h"
+#include "lists_in_use.h"
 
 #include <attrmgr/aaa_platform.h>
 
@@ -50,7 +50,7 @@ struct Record {
 
 class Survey {
  public:
-  Survey(SurveyedList *list, std::unordered_set<std::uint64_t> *sub_lists) : list_(*list), sub_lists_(*sub_lists) {}
+  Survey(ListInUse *list, std::unordered_set<std::uint64_t> *sub_lists) : list_(*list), sub_lists_(*sub_lists) {}
 
   void read(std::uint64_t block) {
     for (std::size_t blocks = 0; block != 0 && !list_.damaged; ++blocks) block = read_block(block, blocks);
@@ -101,7 +101,7 @@ class Survey {
     list_.names += type != nullptr ? type->name : "type " + std::to_string(record.type);
   }
 
-  SurveyedList &list_;
+  ListInUse &list_;
   std::unordered_set<std::uint64_t> &sub_lists_;
   std::size_t named_ = 0;
   std::byte bytes_[kBlockMax];
@@ -125,14 +125,14 @@ std::vector<const void *> calls_of(std::uint64_t handle, const void *head) {
 
 }  // namespace
 
-std::vector<SurveyedList> survey_lists() {
-  std::vector<SurveyedList> lists;
+std::vector<ListInUse> lists_in_use() {
+  std::vector<ListInUse> lists;
   std::unordered_set<std::uint64_t> sub_lists;
   for_each_live([&](std::uint64_t handle, const void *head) {
     lists.push_back({handle, calls_of(handle, head), 0, {}, false, false});
     Survey(&lists.back(), &sub_lists).read(reinterpret_cast<std::uint64_t>(head));
   });
-  for (SurveyedList &list : lists) list.sub_list = sub_lists.contains(list.handle);
+  for (ListInUse &list : lists) list.sub_list = sub_lists.contains(list.handle);
   return lists;
 }
 

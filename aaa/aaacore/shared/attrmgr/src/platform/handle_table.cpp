@@ -4,7 +4,7 @@
 
 #include <attrmgr/aaa_platform.h>
 
-#include "aaa_attr/frame/handle_table.h"
+#include "platform/handle_table.h"
 
 [[gnu::weak]] std::uint16_t id_create_new_table(std::uint32_t, std::uint32_t, const char *) { return 1; }
 
@@ -26,6 +26,8 @@ extern "C" [[gnu::alias("id_to_ptr")]] void *own_id_to_ptr(std::uint64_t, std::u
 }  // namespace
 
 IdToPtr *const kOwnIdToPtr = own_id_to_ptr;
+
+std::uint16_t handle_table_number = 0;
 
 }  // namespace attrmgr
 

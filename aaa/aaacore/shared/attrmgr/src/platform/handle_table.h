@@ -1,4 +1,4 @@
-// Whether the handle table in use is the library's own.
+// The handle table in use: its number, and whether it is the library's own.
 #pragma once
 
 #include <cstdint>
@@ -13,5 +13,9 @@ extern IdToPtr *const kOwnIdToPtr;
 // True where no process has put its own table in the place of this one, in which a handle is an address. Then there is
 // nothing to call: every operation begins with a handle.
 inline bool handles_are_addresses() { return id_to_ptr == kOwnIdToPtr; }
+
+// The table's number for the id_ calls; 0 before the client process has registered.
+extern std::uint16_t handle_table_number;
+inline std::uint16_t handle_table() { return handle_table_number; }
 
 }  // namespace attrmgr
