@@ -1,7 +1,8 @@
 // Equality of lists as sets: every attribute of each has a match in the other. Lists that hold the same in the same
 // order are equal after one pass over both, block by block if even the bytes are the same. Of all others first the
-// values are compared, then the groups, class by class: the records whose hashes fall into one class are few enough for
-// a window, and one pass over each list tells whether they are the same set.
+// values are compared, then the groups. The values of a short list are found by their types; else both go class by
+// class: the records whose hashes fall into one class are few enough for a window, and one pass over each list tells
+// whether they are the same set.
 //
 // A group's hash is that of what its sub-list holds, in any order. So sub-lists that differ are seldom compared at all,
 // and those that are equal are compared once, for both directions together; every other way, each level of nesting
@@ -9,6 +10,7 @@
 #include <attrmgr/aaa_attr.h>
 
 #include "aaa_attr/list_ops/contents_hash.h"
+#include "aaa_attr/list_ops/few_records.h"
 #include "aaa_attr/list_ops/match.h"
 #include "aaa_attr/list_ops/record_window.h"
 #include "aaa_attr/store/handle_check.h"
@@ -22,6 +24,9 @@ bool same_meta(RecordView a, RecordView b) {
   if (a.has_meta() != b.has_meta()) return false;
   return !a.has_meta() || std::memcmp(a.meta_bytes(), b.meta_bytes(), kMetaSize) == 0;
 }
+
+// Of records of one type.
+bool same_value_and_meta(RecordView a, RecordView b) { return same_value(a, b) && same_meta(a, b); }
 
 // ---- The same in the same order ----
 
@@ -45,7 +50,7 @@ bool same_in_order(BlockView list1, BlockView list2) {
   for (; *at1 && *at2; ++at1, ++at2) {
     if ((*at1).type() != (*at2).type()) return false;
     const bool same = is_grouped(*at1) ? same_sub_lists_in_order(sub_list_of(*at1), sub_list_of(*at2))
-                                       : same_value(*at1, *at2) && same_meta(*at1, *at2);
+                                       : same_value_and_meta(*at1, *at2);
     if (!same) return false;
   }
   return !*at1 && !*at2;
@@ -81,7 +86,7 @@ class Values {
 
   bool include(RecordView record) const { return !among_groups_ || !is_grouped(record); }
   std::uint64_t hash(RecordView record) const { return hasher_.of_value_and_meta(record); }
-  bool match(RecordView a, RecordView b) const { return a.type() == b.type() && same_value(a, b) && same_meta(a, b); }
+  bool match(RecordView a, RecordView b) const { return a.type() == b.type() && same_value_and_meta(a, b); }
   void met_again(WindowEntry &, RecordView) const {}
 
  private:
@@ -213,9 +218,21 @@ RecordView first_group(BlockView list) {
   return {};
 }
 
+// Of lists of which the first is short.
+bool few_values_equal(BlockView list1, BlockView list2, const Values &values) {
+  FewRecords few;
+  for (const RecordView record : Attributes(list1))
+    if (values.include(record)) few.add(record);
+  for (const RecordView record : Attributes(list2))
+    if (values.include(record) && !few.match(record, same_value_and_meta)) return false;
+  return few.all_matched();
+}
+
 bool values_equal(BlockView list1, BlockView list2, bool among_groups, Windows &windows) {
+  const Values values(among_groups);
+  if (count_records(list1) <= FewRecords::kMost) return few_values_equal(list1, list2, values);
   const RecordWindow window(windows.values, 0, std::min(count_records(list1), kValueEntries));
-  return SetComparison(list1, list2, Values(among_groups), window).equal();
+  return SetComparison(list1, list2, values, window).equal();
 }
 
 bool groups_equal(BlockView list1, std::size_t num_groups, BlockView list2, Windows &windows) {
