@@ -9,14 +9,36 @@ namespace {
 
 using namespace attrmgr;
 
-aaa_attr_cerrno add(aaa_attr_list_handle list, std::uint32_t type, const void *value, std::uint32_t length,
-                    const aaa_attr_meta *meta, std::uint32_t client_type) {
+// Whatever it is, and whatever is wrong with it.
+[[gnu::noinline]] aaa_attr_cerrno add_any(aaa_attr_list_handle list, std::uint32_t type, const void *value,
+                                          std::uint32_t length, const aaa_attr_meta *meta, std::uint32_t client_type) {
   return add_attribute(list, {type, value, length, meta, client_type});
+}
+
+// Adds an attribute like most: nothing is wrong with it, nothing special about it, and the last block has room. There
+// is nothing to call then, and so no register to save, which is a tenth of the work.
+[[nodiscard]] inline bool add_plain(aaa_attr_list_handle list, const NewAttribute &attribute) {
+  if (check_presence(attribute) != 0 || attribute.length > kCopiedInline) return false;
+  const BlockView head = head_at(list);
+  if (!head) return false;
+  const NewRecord record = measure(attribute);
+  const ListEnd end(head);
+  const bool plain = (traits_of(attribute.type) & ~kEndsInNul) == 0 && check_length(attribute, record) == 0;
+  if (!plain || record.size > end.last.free_bytes()) return false;
+  write_record(end, attribute, record);
+  return true;
+}
+
+inline aaa_attr_cerrno add(aaa_attr_list_handle list, std::uint32_t type, const void *value, std::uint32_t length,
+                           const aaa_attr_meta *meta, std::uint32_t client_type) {
+  if (add_plain(list, {type, value, length, meta, client_type})) [[likely]]
+    return 0;
+  return add_any(list, type, value, length, meta, client_type);
 }
 
 aaa_attr_cerrno add_sub_list(aaa_attr_list_handle parent, aaa_attr_list_handle sub_list, std::uint32_t type,
                              const aaa_attr_meta *meta) {
-  return add(parent, type, &sub_list, kHandleSize, meta, 0);
+  return add_any(parent, type, &sub_list, kHandleSize, meta, 0);
 }
 
 }  // namespace

@@ -21,7 +21,8 @@ struct NewRecord {
 // For a type of the dictionary.
 inline NewRecord measure(const NewAttribute &attribute) {
   const std::uint32_t format = kFormats[attribute.type];
-  const std::uint32_t nul = kFormatRules.nul(format);
+  static_assert(kEndsInNul == 1);
+  const std::uint32_t nul = kTypeTraits[attribute.type] & kEndsInNul;
   const std::size_t meta_size = attribute.meta != nullptr ? kMetaSize : 0;
   return {format, nul, kRecordHeaderSize + meta_size + std::uint64_t{attribute.length} + nul};
 }

@@ -23,9 +23,11 @@ struct FourWords {
   std::size_t last;
 };
 
+inline constexpr std::size_t kCopiedInline = 32;  // the longest value that is copied without a call
+
 inline void copy_value(std::byte *to, const std::byte *from, std::size_t length) {
   struct Half {
-    std::byte bytes[16];
+    std::byte bytes[kCopiedInline / 2];
   };
   if (FourWords::suit(length)) [[likely]] {
     const FourWords at(length);
@@ -37,7 +39,7 @@ inline void copy_value(std::byte *to, const std::byte *from, std::size_t length)
     store(to + at.inner, word2);
     store(to + at.last - at.inner, word3);
     store(to + at.last, word4);
-  } else if (length >= sizeof(Half) && length <= 2 * sizeof(Half)) {
+  } else if (length >= sizeof(Half) && length <= kCopiedInline) {
     const auto first = load<Half>(from);
     const auto second = load<Half>(from + length - sizeof(Half));
     store(to, first);
