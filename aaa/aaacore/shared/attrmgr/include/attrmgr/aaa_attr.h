@@ -14,7 +14,11 @@
    - A record of a Grouped type owns the list whose handle is its value: freeing the outer list, removing the record
      with aaa_attr_remove and replacing it free that sub-list. A sub-list has one owner.
    - Different lists may be used by different threads at once. One list is one thread's at a time.
-   - Operations over whole lists stop at the first failing step and return its code; what was done before stays. */
+   - Operations over whole lists stop at the first failing step and return its code; what was done before stays.
+
+   list         the handle of a list
+   type         the number of an attribute type, AAA_ATTR_TYPE_* of aaa_attr_names.h
+   client_type  a producer client type, AAA_ATTR_CLIENT_TYPE_MIN to AAA_ATTR_CLIENT_TYPE_MAX */
 #ifndef ATTRMGR_AAA_ATTR_H
 #define ATTRMGR_AAA_ATTR_H
 
@@ -27,17 +31,22 @@ AAA_BEGIN_DECLS
 
 /* ---- The client process ---- */
 
-/* Registers the client process; called once before lists are used. name is copied; ids points to two client
-   identifiers. A second registration returns 0 and changes nothing.
+/* Registers the client process; called once before lists are used. A second registration returns 0 and changes nothing.
+   name: what the process calls itself; copied.
+   ids: two client identifiers.
    AAA_ATTR_ERR_BAD_ARG: name or ids null. AAA_ATTR_ERR_NO_MEMORY: no handle table, or no copy of the name. */
 AAA_API aaa_attr_cerrno aaa_attr_client_register(const char *name, const uint16_t *ids);
 
-/* The constant's name for a code ("AAA_ATTR_ERR_BAD_LIST"), "0" for 0, "<unknown>" for any other number. */
+/* Returns the constant's name for a code ("AAA_ATTR_ERR_BAD_LIST"), "0" for 0, "<unknown>" for any other number.
+   code: what a call returned.
+   Owner: the library; constant text. */
 AAA_API const char *aaa_attr_cerrno_name(aaa_attr_cerrno code);
 
 /* ---- Lists ---- */
 
-/* Makes an empty list, which the caller frees. *list is 0 on failure.
+/* Makes an empty list.
+   list: its handle; 0 on failure.
+   Owner: the caller, until aaa_attr_list_free, or until a record of another list owns it.
    AAA_ATTR_ERR_NO_MEMORY: no block or no handle. */
 AAA_API aaa_attr_cerrno aaa_attr_list_alloc(aaa_attr_list_handle *list);
 
@@ -45,47 +54,51 @@ AAA_API aaa_attr_cerrno aaa_attr_list_alloc(aaa_attr_list_handle *list);
    name a list. */
 AAA_API void aaa_attr_list_free(aaa_attr_list_handle list);
 
-/* 1 when the handle and every block of the list are sound, else 0. *code: 0 or the reason, AAA_ATTR_ERR_BAD_LIST or
-   AAA_ATTR_ERR_STALE_HANDLE. */
+/* Returns 1 when the handle and every block of the list are sound, else 0.
+   code: 0 or the reason, AAA_ATTR_ERR_BAD_LIST or AAA_ATTR_ERR_STALE_HANDLE. */
 AAA_API int is_aaa_attr_list_valid(aaa_attr_list_handle list, aaa_attr_cerrno *code);
 
-/* *empty: 1 when the list has no attribute, else 0.
+/* Tells whether a list has no attribute.
+   empty: 1 when it has none, else 0.
    AAA_ATTR_ERR_BAD_LIST: the list is not valid, or empty is null. AAA_ATTR_ERR_NO_MEMORY: no cursor. */
 AAA_API aaa_attr_cerrno is_aaa_attr_list_empty(aaa_attr_list_handle list, int *empty);
 
-/* The number of records in the list; removed ones count until the list is coalesced. 0 for a handle that names no list.
-   Later blocks are counted as they are: is_aaa_attr_list_valid looks at those. */
+/* Returns the number of records in the list; removed ones count until the list is coalesced. 0 for a handle that names
+   no list. Later blocks are counted as they are: is_aaa_attr_list_valid looks at those. */
 AAA_API uint32_t aaa_attr_list_attr_count(aaa_attr_list_handle list);
 
-/* Stamps every attribute with the producer client type (1 to 23).
-   AAA_ATTR_ERR_BAD_ARG: type out of range and the list not empty. AAA_ATTR_ERR_NO_MEMORY: no cursor. Codes of the
-   handle. */
+/* Stamps every attribute with the producer client type.
+   AAA_ATTR_ERR_BAD_ARG: client_type out of range and the list not empty. AAA_ATTR_ERR_NO_MEMORY: no cursor.
+   Codes of the handle. */
 AAA_API aaa_attr_cerrno aaa_attr_list_set_producer_client_type(aaa_attr_list_handle list, uint32_t client_type);
 
-/* As aaa_attr_list_set_producer_client_type, but an attribute that already carries a type of 1 to 23 keeps it. */
+/* Stamps every attribute that does not carry a producer client type of 1 to 23 yet.
+   Codes of aaa_attr_list_set_producer_client_type. */
 AAA_API aaa_attr_cerrno aaa_attr_list_init_producer_client_type(aaa_attr_list_handle list, uint32_t client_type);
 
-/* Writes service and protocol into the two bytes at discriminator; init writes zeros. */
+/* Writes a discriminator: the service and the protocol to which an attribute belongs. init writes zeros.
+   discriminator: two bytes.
+   service: AAA_SERVICE_* of aaa_attr_names.h.
+   protocol: AAA_PROTOCOL_* of aaa_attr_names.h. */
 AAA_API void aaa_attr_discrim_pack(uint8_t *discriminator, uint8_t service, uint8_t protocol);
 AAA_API void aaa_attr_discrim_init(uint8_t *discriminator);
 
 /* ---- Adding ----
 
-   type         an attribute type, 0 to 622
-   value        length bytes: a text without its NUL, a number, an address, or the handle of a sub-list (Grouped)
+   value        its bytes: a text without its NUL, a number, an address, or the handle of a sub-list (Grouped)
    length       must suit the type's format: 4 for Ulong, Enum and IPv4; 16 for IPv6; 4 or 16 for Address; 8 for
                 Grouped; 1 for Boolean; 1 or more for all others
    meta         copied with the attribute, or null for none
-   client_type  the producer client type; its low 7 bits are stored as they are
+   client_type  the producer client type; its low 7 bits are stored as they are, 0 for none
 
-   Checked in this order:
+   Arguments are checked in the order of the codes. The list is unchanged on every failure of adding. When a Grouped
+   attribute has been added, the record owns the sub-list; whether the handle names a list is not looked at.
+
    AAA_ATTR_ERR_NOT_FOUND: type above 622 (add_or_replace: also value null).
    AAA_ATTR_ERR_BAD_ARG: value null or length 0 (add_or_replace: the length only after the list).
    Codes of the handle.
    AAA_ATTR_ERR_BAD_ARG: length unsuitable, or too long for a block of 65,535 bytes; the value is the list itself.
-   AAA_ATTR_ERR_NO_MEMORY: no block, or the list has 65,535 blocks.
-   The list is unchanged on every failure of adding. When a Grouped attribute has been added, the record owns the
-   sub-list; whether the handle names a list is not looked at. */
+   AAA_ATTR_ERR_NO_MEMORY: no block, or the list has 65,535 blocks. */
 
 /* Appends an attribute. The unnumbered form gives no producer client type. */
 AAA_API aaa_attr_cerrno aaa_attr_add(aaa_attr_list_handle list, uint32_t type, const void *value, uint32_t length,
@@ -98,9 +111,9 @@ AAA_API aaa_attr_cerrno aaa_attr_add_v1(aaa_attr_list_handle list, uint32_t type
    attribute is removed and the new one appended; should that fail with AAA_ATTR_ERR_NO_MEMORY, for want of memory or at
    65,535 blocks, the list is left without either. A sub-list that the old attribute held is freed, unless the new value
    names that very list. Value and meta may lie in the list or in that sub-list.
-   v1 appends, and leaves the old attribute, when the metas differ or only one of the two has meta;
-   AAA_ATTR_ERR_BAD_ARG when both would then own one sub-list.
-   v2 takes the producer client type; the unnumbered form is v2 with 0. */
+   v1 appends, and leaves the old attribute, when the metas differ or only one of the two has meta.
+   v2 takes the producer client type; the unnumbered form is v2 with 0.
+   AAA_ATTR_ERR_BAD_ARG: from v1, when both attributes would then own one sub-list. */
 AAA_API aaa_attr_cerrno aaa_attr_add_or_replace(aaa_attr_list_handle list, uint32_t type, const void *value,
                                                 uint32_t length, const aaa_attr_meta *meta);
 AAA_API aaa_attr_cerrno aaa_attr_add_or_replace_v1(aaa_attr_list_handle list, uint32_t type, const void *value,
@@ -108,46 +121,63 @@ AAA_API aaa_attr_cerrno aaa_attr_add_or_replace_v1(aaa_attr_list_handle list, ui
 AAA_API aaa_attr_cerrno aaa_attr_add_or_replace_v2(aaa_attr_list_handle list, uint32_t type, const void *value,
                                                    uint32_t length, const aaa_attr_meta *meta, uint32_t client_type);
 
-/* Makes an empty sub-list and adds it to the parent as a Grouped attribute. *sub_list: the sub-list, owned by the
-   parent and filled by the caller; 0 on failure. A type of another format that takes 8 bytes stores the handle as mere
-   bytes: nothing then frees the sub-list but the caller. Codes of aaa_attr_list_alloc and of adding. */
+/* Makes an empty sub-list and adds it to the parent as a Grouped attribute. A type of another format that takes 8 bytes
+   stores the handle as mere bytes: nothing then frees the sub-list but the caller.
+   parent: the list to which the sub-list is added.
+   sub_list: the sub-list, for the caller to fill; 0 on failure.
+   Owner: the parent.
+   Codes of aaa_attr_list_alloc. */
 AAA_API aaa_attr_cerrno aaa_attr_add_group_list(aaa_attr_list_handle parent, aaa_attr_list_handle *sub_list,
                                                 uint32_t type, const aaa_attr_meta *meta);
 
-/* Adds sub_list to the parent as a Grouped attribute; from then on the parent owns it. On failure the caller keeps it,
-   and with a type that is not Grouped, as above. Codes of adding. */
+/* Adds a list to the parent as a Grouped attribute.
+   parent: the list to which the sub-list is added.
+   sub_list: a list of the caller's.
+   Owner: the parent, of sub_list, from then on; on failure, and with a type that is not Grouped, the caller as before.
+ */
 AAA_API aaa_attr_cerrno aaa_attr_add_existing_group_list(aaa_attr_list_handle parent, aaa_attr_list_handle sub_list,
                                                          uint32_t type, const aaa_attr_meta *meta);
 
 /* ---- Finding ----
 
    Attributes are found in list order, removed ones not at all, type 0 never.
+
+   value    where the value begins, or a copy of it where it is a number
+   length   its length in bytes
+
+   Owner: the list; a value holds until the list is coalesced, filtered or freed.
    AAA_ATTR_ERR_NOT_FOUND: no such attribute. Codes of the handle. */
 
-/* 1 when the list holds an attribute of the type, else 0 (also for a handle that names no list). */
+/* Returns 1 when the list holds an attribute of the type, else 0 (also for a handle that names no list). */
 AAA_API int aaa_attr_is_present(aaa_attr_list_handle list, uint32_t type);
 
-/* *count: the low 16 bits of the number of attributes of the type; none is no failure. */
+/* Counts the attributes of the type; none is no failure, and never AAA_ATTR_ERR_NOT_FOUND.
+   count: the low 16 bits of their number. */
 AAA_API aaa_attr_cerrno aaa_attr_find_attr_type_number(aaa_attr_list_handle list, uint32_t type, uint16_t *count);
 
-/* The first attribute of the type: its value, in the list, and its length. */
+/* Finds the first attribute of the type. */
 AAA_API aaa_attr_cerrno aaa_attr_get(aaa_attr_list_handle list, uint32_t type, const void **value, uint32_t *length);
 
-/* The n-th attribute of the type, from 0. AAA_ATTR_ERR_NOT_FOUND also when value or length is null. */
+/* Finds the n-th attribute of the type.
+   n: counted from 0.
+   AAA_ATTR_ERR_NOT_FOUND: also when value or length is null. */
 AAA_API aaa_attr_cerrno aaa_attr_get_nth(aaa_attr_list_handle list, uint32_t type, const void **value, uint32_t *length,
                                          uint16_t n);
 
-/* The first attribute of a String type: its text, NUL-terminated in the list, and its length without the NUL.
+/* Finds the first attribute of a String type.
+   text: where its text begins, NUL-terminated in the list.
+   length: its length without the NUL.
    AAA_ATTR_ERR_BAD_ARG: the type's format is not String, looked at before the handle. */
 AAA_API aaa_attr_cerrno aaa_attr_get_string(aaa_attr_list_handle list, uint32_t type, const char **text,
                                             uint32_t *length);
 
-/* The first attribute of the type as a number; the value must hold 4 (8) bytes, whatever its format.
+/* Reads the first attribute of the type as a number; the value must hold 4 (8) bytes, whatever its format.
    AAA_ATTR_ERR_BAD_ARG: it holds another number of bytes. */
 AAA_API aaa_attr_cerrno aaa_attr_get_uint32_t(aaa_attr_list_handle list, uint32_t type, uint32_t *value);
 AAA_API aaa_attr_cerrno aaa_attr_get_uint64_t(aaa_attr_list_handle list, uint32_t type, uint64_t *value);
 
-/* The first 4 bytes of the cursor's current attribute as a number.
+/* Reads the first 4 bytes of the cursor's current attribute as a number.
+   cursor: a cursor over a list or a buffer, aaa_cursor.h.
    AAA_ATTR_ERR_BAD_ARG: no current attribute, or its value is shorter. */
 AAA_API aaa_attr_cerrno aaa_attr_get_ulong_val(const aaa_cursor *cursor, uint32_t *value);
 
@@ -155,13 +185,21 @@ AAA_API aaa_attr_cerrno aaa_attr_get_ulong_val(const aaa_cursor *cursor, uint32_
 
    A removed attribute is found no more, but its record keeps its place until the list is coalesced or filtered.
    Removing what is not there is no failure. Values are compared over their length; metas are not compared.
-   Codes of the handle; where two lists are given, AAA_ATTR_ERR_BAD_LIST if either is not valid. */
+
+   list1  the list from which attributes are removed
+   list2  the list that tells which
+
+   Codes of the handle.
+   AAA_ATTR_ERR_BAD_LIST: where two lists are given, if either is not valid. */
 
 /* Removes every attribute of the type, and frees the sub-lists that they hold. */
 AAA_API aaa_attr_cerrno aaa_attr_remove(aaa_attr_list_handle list, uint32_t type);
 
-/* Removes every attribute of the type with this value, a text without its NUL. A sub-list is named by its handle and
-   not freed: the caller has it back. AAA_ATTR_ERR_BAD_ARG: value null and length not 0. */
+/* Removes every attribute of the type with this value. A sub-list is named by its handle and not freed.
+   value: the bytes of the value, a text without its NUL.
+   length: how many.
+   Owner: the caller, of a sub-list that is removed.
+   AAA_ATTR_ERR_BAD_ARG: value null and length not 0. */
 AAA_API aaa_attr_cerrno aaa_attr_remove_on_match(aaa_attr_list_handle list, uint32_t type, const void *value,
                                                  uint32_t length);
 
@@ -174,7 +212,9 @@ AAA_API aaa_attr_cerrno aaa_attr_list_remove_list(aaa_attr_list_handle list1, aa
 AAA_API aaa_attr_cerrno aaa_attr_list_remove_list_on_match(aaa_attr_list_handle list1, aaa_attr_list_handle list2);
 
 /* Goes through list1 and removes every attribute of whose type list2 still holds one; with it goes the first such one
-   of list2, if their values are the same. Sub-lists are not freed. */
+   of list2, if their values are the same. Sub-lists are not freed.
+   list2: loses attributes, too.
+   Owner: the caller, of the sub-lists that are removed. */
 AAA_API aaa_attr_cerrno aaa_attr_list_remove_common_attrs(aaa_attr_list_handle list1, aaa_attr_list_handle list2);
 
 /* ---- Combining ----
@@ -182,14 +222,23 @@ AAA_API aaa_attr_cerrno aaa_attr_list_remove_common_attrs(aaa_attr_list_handle l
    Attributes of the source are added to the destination in the source's order, with their meta; a Grouped attribute
    with a copy of its sub-list. The source is not changed, except by aaa_attr_list_merge_list and
    aaa_attr_list_replace_and_add_v1. It must not be a sub-list of the destination, which could free it under way.
-   AAA_ATTR_ERR_BAD_ARG: a handle is 0, or both name the same list. Codes of the source's handle, of adding to the
-   destination (looked at when the first attribute is added) and of copying sub-lists; what was added before a failure
-   stays. A list decoded from a flat buffer may hold what adding refuses, a type above 622 for one: the call ends there.
- */
+   What was added before a failure stays. A list decoded from a flat buffer may hold what adding refuses, a type above
+   622 for one: the call ends there.
 
-/* Makes a deep copy of the list, removed records included. *copy is the caller's to free, written on success only.
-   AAA_ATTR_ERR_NO_MEMORY. AAA_ATTR_ERR_BAD_LIST: handle 0, or a block of another layout version, which a decoded list
-   may have. Codes of the handles. */
+   destination  the list that receives attributes
+   source       the list whose attributes are added
+
+   AAA_ATTR_ERR_BAD_ARG: a handle is 0, or both name the same list.
+   Codes of the source's handle, of adding to the destination (looked at when the first attribute is added) and of
+   copying sub-lists. */
+
+/* Makes a deep copy of the list, removed records included.
+   copy: the handle of the copy, written on success only.
+   Owner: the caller, until aaa_attr_list_free.
+   AAA_ATTR_ERR_NO_MEMORY: no block or no handle.
+   AAA_ATTR_ERR_BAD_LIST: handle 0, or a block of another layout version, which a decoded list
+   may have.
+   Codes of the handles. */
 AAA_API aaa_attr_cerrno aaa_attr_list_copy(aaa_attr_list_handle source, aaa_attr_list_handle *copy);
 
 /* Adds every attribute of the source, with its producer client type. */
@@ -203,13 +252,17 @@ AAA_API aaa_attr_cerrno aaa_attr_list_copy_by_type(aaa_attr_list_handle source, 
                                                    uint32_t type);
 
 /* Removes from the destination every attribute whose type the source holds, then adds the source's attributes without
-   producer client type. AAA_ATTR_ERR_BAD_LIST and AAA_ATTR_ERR_NO_MEMORY of the removal, with a line to the standard
-   error stream. */
+   producer client type.
+   AAA_ATTR_ERR_BAD_LIST: of the removal, with a line to the standard error stream.
+   AAA_ATTR_ERR_NO_MEMORY: the same. */
 AAA_API aaa_attr_cerrno aaa_attr_list_replace_and_add(aaa_attr_list_handle destination, aaa_attr_list_handle source);
 
 /* Removes from *list1 every attribute whose type *list2 holds, adds the rest to *list2 with its producer client types,
-   and exchanges the two handles: *list1 then names the whole, *list2 the rest; the caller owns both. A failure leaves
-   the handles as they were, and in the lists what was done so far. Codes as above. */
+   and exchanges the two handles. A failure leaves the handles as they were, and in the lists what was done so far.
+   list1: names the whole afterwards.
+   list2: names the rest afterwards.
+   Owner: the caller, of both lists.
+   Codes of aaa_attr_list_replace_and_add. */
 AAA_API aaa_attr_cerrno aaa_attr_list_replace_and_add_v1(aaa_attr_list_handle *list1, aaa_attr_list_handle *list2);
 
 /* Adds the source's attributes without producer client type: "qos-policy-in" and "qos-policy-out" beside those that the
@@ -217,20 +270,26 @@ AAA_API aaa_attr_cerrno aaa_attr_list_replace_and_add_v1(aaa_attr_list_handle *l
 AAA_API aaa_attr_cerrno aaa_attr_list_merge_double_dip(aaa_attr_list_handle destination, aaa_attr_list_handle source);
 
 /* Moves the source's blocks to the end of the destination, without a copy. The source's handle is gone then.
+   Owner: the destination, of what the source held.
    AAA_ATTR_ERR_BAD_LIST: a handle is 0. AAA_ATTR_ERR_BAD_ARG: the same list. AAA_ATTR_ERR_NO_MEMORY: more than 65,535
    blocks together, both lists unchanged. Codes of the handles. */
 AAA_API aaa_attr_cerrno aaa_attr_list_merge_list(aaa_attr_list_handle destination, aaa_attr_list_handle source);
 
-/* Keeps the attributes of the given types and drops the others with their sub-lists. The list is rebuilt: *list becomes
-   the handle of the new one, the old handle is gone. Only the low 8 bits of count are used.
+/* Keeps the attributes of the given types and drops the others with their sub-lists. The list is rebuilt.
+   list: becomes the handle of the new list; the old handle is gone.
+   types: the types to keep.
+   count: how many; only the low 8 bits are used.
+   Owner: the caller, of the new list in place of the old one.
    AAA_ATTR_ERR_BAD_ARG: list null, or types null and a count not 0. AAA_ATTR_ERR_BAD_LIST: *list is 0. Codes of the
    handle. AAA_ATTR_ERR_NO_MEMORY, and codes of adding for what a decoded list may hold: *list stays and the attributes
    are dropped, but the list is not rebuilt. */
 AAA_API aaa_attr_cerrno aaa_attr_filter_on_type(aaa_attr_list_handle *list, const uint32_t *types, uint32_t count);
 
-/* 1 when each list holds, for every attribute of the other, one of the same type, value and meta, whatever the order
-   and the number of repetitions; sub-lists are compared by what they hold, without their meta. 0 for a handle that
-   names no list, but identical handles are always equal. */
+/* Returns 1 when each list holds, for every attribute of the other, one of the same type, value and meta, whatever the
+   order and the number of repetitions; sub-lists are compared by what they hold, without their meta. 0 for a handle
+   that names no list, but identical handles are always equal.
+   list1: one list.
+   list2: the other. */
 AAA_API int aaa_attr_list_eq(aaa_attr_list_handle list1, aaa_attr_list_handle list2);
 
 AAA_END_DECLS

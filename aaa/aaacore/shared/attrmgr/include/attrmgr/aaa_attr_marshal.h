@@ -3,7 +3,11 @@
 
    docs/layout.md describes the bytes. Handles and addresses inside a buffer mean nothing to a receiver; no call follows
    them. Calls that are given a length may be handed any bytes. Calls that are given none trust the buffer's block
-   lengths and stay inside the used bytes of each block. */
+   lengths and stay inside the used bytes of each block.
+
+   list     the handle of a list
+   buffer   the first byte of the buffer, its marker
+   length  the bytes of the buffer */
 #ifndef ATTRMGR_AAA_ATTR_MARSHAL_H
 #define ATTRMGR_AAA_ATTR_MARSHAL_H
 
@@ -20,47 +24,60 @@ AAA_BEGIN_DECLS
 
 /* ---- Writing flat buffers ---- */
 
-/* *size: the bytes of the list's flat buffer as the list stands, removed attributes included. The second form drops
-   those from the list first.
-   AAA_ATTR_ERR_BAD_FORMAT: a Grouped attribute whose value is not a handle, or more than 2^32 - 1 bytes. Codes of the
-   handles, sub-lists' included. */
+/* Measures the list's flat buffer as the list stands, removed attributes included. The second form drops those from the
+   list first.
+   size: the bytes of the buffer.
+   AAA_ATTR_ERR_BAD_FORMAT: a Grouped attribute whose value is not a handle, or more than 2^32 - 1 bytes.
+   Codes of the handles, sub-lists' included. */
 AAA_API aaa_attr_cerrno aaa_attr_list_buffer_len(aaa_attr_list_handle list, uint32_t *size);
 AAA_API aaa_attr_cerrno aaa_attr_list_buffer_coalesce_and_get_len(aaa_attr_list_handle list, uint32_t *size);
 
-/* Writes the list with all its sub-lists as a flat buffer. *size: in, the capacity of buffer; out, the bytes written.
-   v1 first drops removed attributes from the list (sub-lists are written as they stand).
+/* Writes the list with all its sub-lists as a flat buffer. v1 first drops removed attributes from the list, even where
+   it then fails (sub-lists are written as they stand).
+   buffer: where to write; null to ask for the size.
+   size: in, the capacity of buffer; out, the bytes written, or the size needed.
    AAA_ATTR_ERR_BAD_FORMAT: buffer null or too small, *size is the size needed and nothing is written; or the list
-   cannot be measured, *size is 0. AAA_ATTR_ERR_BAD_ARG: size null. v1 only: codes of the handle, *size as it was;
-   removed attributes are dropped even where it then fails. */
+   cannot be measured, *size is 0.
+   AAA_ATTR_ERR_BAD_ARG: size null.
+   Codes of the handle, from v1 only, *size as it was. */
 AAA_API aaa_attr_cerrno aaa_attr_list_to_buffer(aaa_attr_list_handle list, void *buffer, uint32_t *size);
 AAA_API aaa_attr_cerrno aaa_attr_list_to_buffer_v1(aaa_attr_list_handle list, void *buffer, uint32_t *size);
 
 /* ---- TLV buffers ---- */
 
-/* *size: the bytes of the list's records in TLV form; the buffer needs 5 more. Codes of the handles;
-   AAA_ATTR_ERR_BAD_FORMAT when the buffer would pass 2^32 - 1 bytes. */
+/* Measures the list's TLV buffer.
+   size: the bytes of the records in TLV form; the buffer needs 5 more.
+   AAA_ATTR_ERR_BAD_FORMAT: the buffer would pass 2^32 - 1 bytes.
+   Codes of the handles. */
 AAA_API aaa_attr_cerrno aaa_attr_list_tlv_buffer_len(aaa_attr_list_handle list, uint32_t *size);
 
-/* Writes the list as a TLV buffer: live attributes only, without producer client types. *size: in, the capacity of
-   buffer; out, the bytes written.
+/* Writes the list as a TLV buffer: live attributes only, without producer client types.
+   buffer: where to write; null to ask for the size.
+   size: in, the capacity of buffer; out, the bytes written, or the size needed.
    AAA_ATTR_ERR_BAD_FORMAT: buffer null or too small, *size is the size needed; or more than 2^32 - 1 bytes, *size is 0.
    Codes of the handles, *size as it was. */
 AAA_API aaa_attr_cerrno aaa_attr_list_tlv_to_buffer(aaa_attr_list_handle list, void *buffer, uint32_t *size);
 
 /* ---- Reading buffers ---- */
 
-/* Builds a list from a flat or TLV buffer of length bytes, by its marker; the caller frees it. Bytes after the outer
-   list are ignored. A refused buffer leaves nothing behind.
+/* Builds a list from a flat or TLV buffer of length bytes, by its marker. Bytes after the outer list are ignored. A
+   refused buffer leaves nothing behind.
+   list: the handle of the list; 0 when decoding failed.
+   Owner: the caller, until aaa_attr_list_free.
    AAA_ATTR_ERR_BAD_ARG: null, length 0 (*list as it was), or an unknown marker.
    AAA_ATTR_ERR_NO_MEMORY: an allocation failed (*list as it was when it was the first).
    AAA_ATTR_ERR_BAD_BUFFER: a flat buffer is cut short or does not hold together; lists nest deeper than
    AAA_ATTR_NESTING_MAX. AAA_ATTR_ERR_BAD_LENGTH: the same for a TLV buffer.
-   AAA_ATTR_ERR_NOT_FOUND: a TLV record of type 0 or above 622. Codes of adding for TLV records.
-   *list is 0 when decoding failed. */
+   AAA_ATTR_ERR_NOT_FOUND: a TLV record of type 0 or above 622.
+   Codes of adding, for TLV records. */
 AAA_API aaa_attr_cerrno aaa_attr_buffer_to_list(const void *buffer, uint32_t length, aaa_attr_list_handle *list);
 
 /* Copies out the first value of the type in a flat buffer, sub-lists and removed attributes included, as it is stored
-   (a String with its NUL). *size: in, the capacity of value; out, the bytes copied. *format: AAA_ATTR_FMT_*.
+   (a String with its NUL).
+   type: the type sought.
+   format: the format of the value, AAA_ATTR_FMT_*.
+   value: where to copy it.
+   size: in, the capacity of value; out, the bytes copied.
    AAA_ATTR_ERR_BAD_ARG: null, *size 0, or not a flat buffer.
    AAA_ATTR_ERR_NO_MEMORY: no such type; not a proper first block; value too small, then *size is 0. */
 AAA_API aaa_attr_cerrno aaa_attr_get_from_buffer(const void *buffer, uint32_t type, uint32_t *format, void *value,
@@ -69,18 +86,19 @@ AAA_API aaa_attr_cerrno aaa_attr_get_from_buffer(const void *buffer, uint32_t ty
 /* Prints the attributes of a flat buffer, nested lists too, to the standard output. */
 AAA_API void aaa_attr_list_buffer_print(const void *buffer);
 
-/* 1 when this is a flat buffer whose first block has the 16-byte header of the foreign layout, else 0. */
+/* Returns 1 when this is a flat buffer whose first block has the 16-byte header of the foreign layout, else 0. */
 AAA_API int aaa_attr_buffer_is_alien(const void *buffer, uint32_t length);
 
-/* 1 when every call above that is told no length may be used on the flat buffer, and all of them see the records that
-   the decoder sees; else 0. *code: 0 or the reason.
+/* Returns 1 when every call that is told no length may be used on the flat buffer, and all of them see the records that
+   the decoder sees; else 0.
+   code: 0 or the reason, one of these.
    AAA_ATTR_ERR_BAD_ARG: null, length 0, or not marked as a flat buffer. AAA_ATTR_ERR_BAD_BUFFER: what the decoder
    refuses; the foreign layout; `next` is not zero exactly in the last block of each list. */
 AAA_API int is_aaa_attr_buffer_valid(const void *buffer, uint32_t length, aaa_attr_cerrno *code);
 
 /* Takes the sender's addresses out of a valid flat buffer, in place, for a buffer that leaves the machine: `next`
-   becomes 0 or 1, Grouped values and reserved bytes 0. Codes of is_aaa_attr_buffer_valid; the buffer is unchanged then.
- */
+   becomes 0 or 1, Grouped values and reserved bytes 0. The buffer is unchanged on failure.
+   Codes of is_aaa_attr_buffer_valid. */
 AAA_API aaa_attr_cerrno aaa_attr_buffer_scrub(void *buffer, uint32_t length);
 
 /* ---- Byte order ----
@@ -99,6 +117,7 @@ typedef enum cdm_endian_tran_type
 /* Translates a flat buffer in place. Ulong and Enum values are translated; other values, the handles of sub-lists among
    them, travel as they are. A refused buffer is unchanged. v1 is told the buffer's length.
    A buffer whose first block counts no blocks is left as it is, with 0.
+   direction: to network form before the buffer leaves, to host form where it arrives.
    AAA_ATTR_ERR_BAD_ARG: null, an unknown direction, or not marked as a flat buffer (v1: length 0).
    AAA_ATTR_ERR_BAD_BUFFER: the buffer does not hold together in the form that it should be in (v1: within length), or
    the blocks of a list differ in their layout. */
@@ -115,27 +134,39 @@ typedef struct aaa_attr_array_entry {
 
 /* Describes the list's flat buffer as entries for a vectored write: first the marker byte, then the list's own blocks
    and those of its sub-lists. They hold until the list changes.
-   *count: in, the capacity of *array, or 0 to have an array allocated, which the caller frees; out, the entries
-   written. AAA_ATTR_ERR_BAD_ARG: array or *array null, or too small; *count is the number needed.
-   AAA_ATTR_ERR_NO_MEMORY: no array. AAA_ATTR_ERR_BAD_FORMAT: a Grouped attribute whose value is not a handle. Codes of
-   the handles. */
+   array: an array of the caller's, or where the address of an allocated one is put.
+   count: in, the capacity of *array, or 0 to have an array allocated; out, the entries written.
+   Owner: the caller, of the array: free releases it. The list, of the bytes.
+   AAA_ATTR_ERR_BAD_ARG: array or *array null, or too small; *count is the number needed.
+   AAA_ATTR_ERR_NO_MEMORY: no array. AAA_ATTR_ERR_BAD_FORMAT: a Grouped attribute whose value is not a handle.
+   Codes of the handles. */
 AAA_API aaa_attr_cerrno aaa_attr_list_to_array(aaa_attr_list_handle list, aaa_attr_array_entry **array,
                                                uint32_t *count);
 
-/* ---- IPv6 prefix values (RFC 3162, section 2.3: reserved byte, prefix length, prefix) ---- */
+/* ---- IPv6 prefix values ----
+
+   RFC 3162, section 2.3: a reserved byte, the prefix length, the prefix.
+
+   address  the 16 bytes of an IPv6 address
+   value    the AAA_IPV6_PREFIX_SIZE bytes of a prefix value */
 
 #define AAA_IPV6_ADDRESS_SIZE 16
 #define AAA_IPV6_PREFIX_SIZE 18 /* the prefix field is always 16 bytes here */
 
-/* Packs an address and the low 8 bits of a prefix length (in bits, not checked) into AAA_IPV6_PREFIX_SIZE bytes. */
+/* Packs an address and a prefix length.
+   prefix_length: in bits; its low 8 bits are stored, unchecked. */
 AAA_API void aaa_attr_encode_ipv6_prefix(const uint8_t *address, int32_t prefix_length, uint8_t *value);
 
-/* Unpacks a prefix value of AAA_IPV6_PREFIX_SIZE bytes. Bits beyond the prefix length are cleared in the result and,
-   those of the last prefix byte, in the value itself.
-   AAA_ATTR_ERR_BAD_ARG: null, or a prefix length above 128; *prefix_length is 0. */
+/* Unpacks a prefix value. Bits beyond the prefix length are cleared in the address and, those of the last prefix byte,
+   in the value itself.
+   prefix_length: in bits; 0 on failure.
+   AAA_ATTR_ERR_BAD_ARG: null, or a prefix length above 128. */
 AAA_API aaa_attr_cerrno aaa_attr_decode_ipv6_prefix(uint8_t *value, uint8_t *address, uint8_t *prefix_length);
 
-/* ipv6_address_to_string of aaa_platform.h. */
+/* Writes the text form of an address, as ipv6_address_to_string of aaa_platform.h does.
+   text: at least AAA_IPV6_TEXT_SIZE bytes.
+   Returns text.
+   Owner: the caller, as before. */
 AAA_API char *aaa_attr_ipv6_address_to_string(const uint8_t *address, char *text);
 
 AAA_END_DECLS

@@ -38,7 +38,7 @@ typedef struct AAA_PACKED aaa_attr_meta {
   uint16_t client; /* client identifier, carried as given */
 } aaa_attr_meta;
 
-#define AAA_ATTR_META_MANDATORY 0x1u
+#define AAA_ATTR_META_MANDATORY 0x1u /* the attribute must be understood: the M bit of RFC 6733 section 4.1 */
 
 /* Producer client types that are valid to stamp on a record. 0 means none was given. */
 #define AAA_ATTR_CLIENT_TYPE_MIN 1u

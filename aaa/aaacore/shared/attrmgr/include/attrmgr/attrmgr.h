@@ -1,4 +1,11 @@
-/* attrmgr.h: the whole interface. Each header also stands alone. */
+/* attrmgr.h: the whole interface. Each header also stands alone.
+
+   The library holds the attributes of network access - who logs in, with which address, for how long - in lists of
+   typed attributes, the same in every process. A list is made, filled, searched, walked with a cursor, combined with
+   others, and turned into bytes that another process reads in place or makes a list again. Attributes of a Grouped type
+   hold lists. The dictionary says of each type its name, its format, and the names of its values.
+
+   attrmgr.hpp is the same in C++, typed by the dictionary. */
 #ifndef ATTRMGR_ATTRMGR_H
 #define ATTRMGR_ATTRMGR_H
 

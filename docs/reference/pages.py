@@ -1,0 +1,55 @@
+"""The manual pages: one for each family of functions. What they say stands in the headers."""
+
+import dataclasses
+
+
+@dataclasses.dataclass
+class Page:
+    name: str
+    brief: str
+    header: str
+    sections: tuple = ()  # titles; none: the whole header
+    see: tuple = ()  # pages
+    example: str = ""  # FILE:REGION of examples/guide
+
+
+PAGES = [
+    Page("attrmgr_client", "register the process, name result codes", "aaa_attr.h", ("The client process",),
+         ("attrmgr_types", "attrmgr_lists")),
+    Page("attrmgr_lists", "make, free and examine attribute lists", "aaa_attr.h", ("Lists",),
+         ("attrmgr_add", "attrmgr_combine", "attrmgr_checked")),
+    Page("attrmgr_add", "add attributes to a list, and lists to a list", "aaa_attr.h", ("Adding",),
+         ("attrmgr_lists", "attrmgr_find", "attrmgr_names")),
+    Page("attrmgr_find", "find and read attributes of a list", "aaa_attr.h", ("Finding",),
+         ("attrmgr_cursor", "attrmgr_dictionary")),
+    Page("attrmgr_remove", "remove attributes from a list", "aaa_attr.h", ("Removing",),
+         ("attrmgr_add", "attrmgr_combine")),
+    Page("attrmgr_combine", "copy, append, merge, filter and compare lists", "aaa_attr.h", ("Combining",),
+         ("attrmgr_add", "attrmgr_remove")),
+    Page("attrmgr_cursor", "walk a list or a flat buffer", "aaa_cursor.h",
+         ("Taking and returning", "Moving", "Changing"), ("attrmgr_cursor_read", "attrmgr_decode")),
+    Page("attrmgr_cursor_read", "read the attribute under a cursor", "aaa_cursor.h", ("Reading the current attribute",),
+         ("attrmgr_cursor", "attrmgr_dictionary")),
+    Page("attrmgr_flat", "write a list as a flat buffer", "aaa_attr_marshal.h", ("Writing flat buffers",),
+         ("attrmgr_decode", "attrmgr_gather", "attrmgr_byte_order")),
+    Page("attrmgr_tlv", "write a list as a TLV buffer", "aaa_attr_marshal.h", ("TLV buffers",),
+         ("attrmgr_decode", "attrmgr_flat")),
+    Page("attrmgr_decode", "read, check and scrub buffers", "aaa_attr_marshal.h", ("Reading buffers",),
+         ("attrmgr_flat", "attrmgr_tlv", "attrmgr_cursor")),
+    Page("attrmgr_byte_order", "translate flat buffers for hosts of the other byte order", "aaa_attr_marshal.h",
+         ("Byte order",), ("attrmgr_flat", "attrmgr_decode")),
+    Page("attrmgr_gather", "describe a flat buffer where it lies, for writev", "aaa_attr_marshal.h", ("Gather list",),
+         ("attrmgr_flat",)),
+    Page("attrmgr_ipv6_prefix", "pack and unpack IPv6 prefix values", "aaa_attr_marshal.h", ("IPv6 prefix values",),
+         ("attrmgr_add", "attrmgr_platform")),
+    Page("attrmgr_display", "show lists as text, secrets left out", "aaa_attr_display.h", (),
+         ("attrmgr_dictionary", "attrmgr_decode")),
+    Page("attrmgr_dictionary", "formats, names and value names of the attribute types", "aaa_attr_dict.h", (),
+         ("attrmgr_names", "attrmgr_values")),
+    Page("attrmgr_values", "tables of value names and authorization bitmaps", "aaa_attr_values.h", (),
+         ("attrmgr_dictionary", "attrmgr_names")),
+    Page("attrmgr_types", "result codes, handles, attribute meta", "aaa_attr_types.h", (),
+         ("attrmgr_client", "attrmgr_add")),
+    Page("attrmgr_platform", "handle table, pools, memory: what a process may replace", "aaa_platform.h", (),
+         ("attrmgr_checked",)),
+]
