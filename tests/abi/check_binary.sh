@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Holds a built shared library against symbols.txt (what it exports, no more and no less) and imports.txt (what it may
-# ask for), and sees that it needs the C library and nothing else.
+# Holds a built shared library against symbols.txt (what it exports, no more and no less), replaceable.txt (which of that
+# it calls through dynamic symbols) and imports.txt (what it may ask for), and sees that it needs the C library and
+# nothing else.
 set -eu
 export LC_ALL=C
 library=$1
@@ -22,6 +23,9 @@ complain() {
 }
 
 exported=$("$nm" -D --defined-only "$library" | awk '$2 != "A" { sub(/@.*/, "", $3); print $3 }' | sort)
+functions=$("$nm" -D --defined-only "$library" | awk '$2 ~ /[TW]/ { sub(/@.*/, "", $3); print $3 }' | sort)
+bound=$("$readelf" -rW "$library" | awk 'NF > 4 { sub(/@.*/, "", $5); print $5 }' | sort -u)
+replaceable=$(comm -12 <(echo "$functions") <(echo "$bound"))
 imported=$("$nm" -D --undefined-only "$library" | awk '{ sub(/@.*/, "", $2); print $2 }' | sort)
 needed=$("$readelf" -d "$library" | sed -n 's/.*(NEEDED).*\[\(.*\)\]/\1/p')
 if [ -z "$exported" ] || [ -z "$imported" ]; then
@@ -31,6 +35,8 @@ fi
 
 complain "exported, but not in symbols.txt" < <(comm -23 <(echo "$exported") <(names symbols.txt))
 complain "in symbols.txt, but not exported" < <(comm -13 <(echo "$exported") <(names symbols.txt))
+complain "called through its dynamic symbol, but not in replaceable.txt" < <(comm -23 <(echo "$replaceable") <(names replaceable.txt))
+complain "in replaceable.txt, but not called through its dynamic symbol" < <(comm -13 <(echo "$replaceable") <(names replaceable.txt))
 complain "imported, but not allowed by imports.txt" < <(comm -23 <(echo "$imported") <(names imports.txt))
 complain "needs a library beside the C library" < <(grep -vx 'libc\.so\.6' <<<"$needed")
 exit $failed

@@ -11,10 +11,7 @@ using namespace attrmgr;
 
 std::uint32_t aaa_attr_get_format_from_type(std::uint32_t type) { return format_of(type); }
 
-const char *aaa_attr_get_name_from_type(std::uint32_t type) {
-  const TypeRow *row = row_of(type);
-  return row != nullptr ? row->name.data() : "Unknown AAA Attribute";
-}
+const char *aaa_attr_get_name_from_type(std::uint32_t type) { return type_name(type); }
 
 std::uint32_t aaa_attr_get_type_from_name(const char *name) {
   if (name == nullptr) return 0;

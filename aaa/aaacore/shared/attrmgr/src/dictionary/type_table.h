@@ -42,6 +42,12 @@ inline std::uint8_t traits_of(std::uint32_t type) {
 // Null for a number that is no type.
 inline const TypeRow *row_of(std::uint32_t type) { return type < AAA_ATTR_TYPE_COUNT ? &kTypes[type] : nullptr; }
 
+// A literal, for any number.
+inline const char *type_name(std::uint32_t type) {
+  const TypeRow *row = row_of(type);
+  return row != nullptr ? row->name.data() : "Unknown AAA Attribute";
+}
+
 // The name of an Enum row's value; null for a value without one, and for rows of other formats.
 inline const char *value_name(const TypeRow &row, std::uint32_t value) {
   return row.values != nullptr && value < row.values->count ? row.values->names[value] : nullptr;

@@ -3,10 +3,8 @@
 #include <cstdio>
 
 #include <attrmgr/aaa_attr_marshal.h>
-#include <attrmgr/aaa_cursor.h>
 
 #include "aaa_attr/cursor/pooled_cursor.h"
-#include "aaa_attr/walk/cursor_step.h"
 #include "aaa_attr/walk/flat_reader.h"
 #include "display/render.h"
 #include "display/shown.h"
@@ -44,23 +42,25 @@ class NestedLists {
   const std::byte *next_ = nullptr;
 };
 
-}  // namespace
-
-void aaa_attr_list_buffer_print(const void *buffer) {
-  aaa_cursor *cursor = nullptr;
-  if (aaa_cursor_alloc_from_buffer(buffer, &cursor) != 0) return;
-  std::printf("\nAttribute list: %" PRIuPTR, reinterpret_cast<std::uintptr_t>(buffer));
+// A list is named by the byte before its first block: the marker of the outer one.
+void print_list(const std::byte *first_block) {
+  PooledCursor cursor(first_block);
+  if (cursor.error()) return;
+  std::printf("\nAttribute list: %" PRIuPTR, reinterpret_cast<std::uintptr_t>(first_block) - kMarkerSize);
   NestedLists nested;
   int number = 0;
-  while (aaa_cursor_get_next(cursor) != 0) {
-    const RecordView record = record_of(*cursor);
+  while (const RecordView record = cursor.next()) {
     if (!is_shown(record)) continue;
     print_attribute(record, ++number);
     aaa_attr_list_handle sender_handle;
     if (!nests_list(record, &sender_handle)) continue;
     std::printf("\nGrouped attribute: %" PRIu32, static_cast<std::uint32_t>(sender_handle));
-    // The byte before the nested list stands for its marker; it is not read.
-    if (const std::byte *list = nested.take(block_of(*cursor))) aaa_attr_list_buffer_print(list - 1);
+    if (const std::byte *list = nested.take(cursor.block())) print_list(list);
   }
-  aaa_cursor_free(cursor);
+}
+
+}  // namespace
+
+void aaa_attr_list_buffer_print(const void *buffer) {
+  if (buffer != nullptr) print_list(static_cast<const std::byte *>(buffer) + kMarkerSize);
 }

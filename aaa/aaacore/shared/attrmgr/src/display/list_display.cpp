@@ -36,8 +36,8 @@ void hand_list(const Output &output, const char *title, aaa_attr_list_handle lis
 // The lists nested in a brief display are displayed in full.
 void display(aaa_attr_list_handle list, const Output &output, RenderMode mode) {
   const bool brief = mode == RenderMode::kListBrief;
-  BlockView head;
-  if (resolve(list, &head) != 0) return hand_list(output, "Bad List: ", list, brief);
+  const auto [head, error] = resolve(list);
+  if (error) return hand_list(output, "Bad List: ", list, brief);
   hand_list(output, brief ? " Attribute List: 0x" : "Attribute List: 0x", list, false);
   std::uint64_t number = 0;
   for (const RecordView record : Attributes(head)) {

@@ -20,8 +20,8 @@ void print_attribute(RecordView record, int number) {
 }  // namespace
 
 void aaa_attr_list_print(aaa_attr_list_handle list) {
-  BlockView head;
-  if (resolve(list, &head) != 0) {
+  const auto [head, error] = resolve(list);
+  if (error) {
     std::fprintf(stdout, "\nBad List %" PRIx64, list);
     return;
   }

@@ -1,9 +1,8 @@
 // One line about a list: how many attributes, how long in all, the longest and the shortest.
 #include <attrmgr/aaa_attr_display.h>
-#include <attrmgr/aaa_cursor.h>
 
 #include "aaa_attr/cursor/pooled_cursor.h"
-#include "aaa_attr/walk/cursor_step.h"
+#include "aaa_attr/store/attribute.h"
 #include "display/render.h"
 #include "display/shown.h"
 
@@ -49,13 +48,11 @@ struct Summary {
 void aaa_display_summ_attr_list_fn(aaa_attr_list_handle list, std::uint32_t, aaa_attr_output_fn output,
                                    std::uint64_t context) {
   if (list == 0) return;
-  const PooledCursor cursor(list);
-  if (cursor.code() != 0) return;
+  PooledCursor cursor(list);
+  if (cursor.error()) return;
   Summary summary;
-  while (aaa_cursor_get_next(cursor.get()) != 0) {
-    const RecordView record = record_of(*cursor.get());
-    if (is_shown(record)) summary.add(record, aaa_cursor_get_length(cursor.get()));
-  }
+  while (const RecordView record = cursor.next())
+    if (is_shown(record)) summary.add(record, reported_length(record));
   if (output == nullptr) return;
   TextLine<kLineSize> line;
   summary.put_into(line);

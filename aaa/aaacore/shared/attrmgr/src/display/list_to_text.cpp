@@ -33,8 +33,8 @@ class Space {
 };
 
 void write_list(aaa_attr_list_handle list, Space &space) {
-  BlockView head;
-  if (resolve(list, &head) != 0) {
+  const auto [head, error] = resolve(list);
+  if (error) {
     space.write([list](TextWriter &text) { text.put("\nBad List ").put_hex(list); });
     return;
   }

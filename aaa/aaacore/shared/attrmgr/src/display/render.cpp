@@ -6,9 +6,9 @@
 #include <type_traits>
 
 #include <attrmgr/aaa_attr_dict.h>
-#include <attrmgr/aaa_attr_marshal.h>
 #include <attrmgr/aaa_platform.h>
 
+#include "aaa_attr/marshal/ipv6_prefix.h"
 #include "aaa_attr/store/attribute.h"
 #include "dictionary/type_table.h"
 
@@ -147,7 +147,7 @@ class Renderer {
     auto prefix = value_as<Ipv6Prefix>(record_);
     Ipv6 address;
     std::uint8_t prefix_length;
-    if (aaa_attr_decode_ipv6_prefix(prefix.bytes, address.bytes, &prefix_length) != 0) return;
+    if (decode_ipv6_prefix(prefix.bytes, address.bytes, &prefix_length)) return;
     const std::size_t held = std::min<std::size_t>(sizeof prefix, record_.length());
     const bool cleared = std::memcmp(record_.value(), prefix.bytes, held) != 0;
     if (cleared && mode_ != RenderMode::kBuffer) std::memcpy(record_.value(), prefix.bytes, held);

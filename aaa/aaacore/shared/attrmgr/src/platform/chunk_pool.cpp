@@ -12,6 +12,8 @@
 
 #include <attrmgr/aaa_platform.h>
 
+#include "platform/replaceable.h"
+
 namespace {
 
 struct FreeElement {
@@ -97,8 +99,8 @@ struct chunk_pool {
   }
 };
 
-[[gnu::weak]] chunk_pool *chunk_create(const char *, std::uint32_t element_size, std::uint32_t elements_per_chunk,
-                                       std::uint32_t, std::uint32_t, std::uint32_t) {
+ATTRMGR_REPLACEABLE chunk_pool *chunk_create(const char *, std::uint32_t element_size, std::uint32_t elements_per_chunk,
+                                             std::uint32_t, std::uint32_t, std::uint32_t) {
   if (element_size == 0 || elements_per_chunk == 0) return nullptr;
   const std::size_t size = round_up(element_size);
   if (size > (SIZE_MAX - kChunkHeader) / elements_per_chunk) return nullptr;
@@ -107,7 +109,7 @@ struct chunk_pool {
   return new (memory) chunk_pool{size, elements_per_chunk, {}};
 }
 
-[[gnu::weak]] void *chunk_malloc(chunk_pool *pool) {
+ATTRMGR_REPLACEABLE void *chunk_malloc(chunk_pool *pool) {
   if (pool == nullptr) return nullptr;
   do {
     if (FreeElement *element = take(Locked(pool->shards))) return element;
@@ -117,13 +119,13 @@ struct chunk_pool {
   return nullptr;
 }
 
-[[gnu::weak]] void chunk_free(chunk_pool *pool, void *element) {
+ATTRMGR_REPLACEABLE void chunk_free(chunk_pool *pool, void *element) {
   if (pool == nullptr || element == nullptr) return;
   const Locked own(pool->shards);
   own->free = new (element) FreeElement{own->free};
 }
 
-[[gnu::weak]] void chunk_destroy(chunk_pool *pool) {
+ATTRMGR_REPLACEABLE void chunk_destroy(chunk_pool *pool) {
   if (pool == nullptr) return;
   for (Shard &shard : pool->shards) {
     while (shard.chunks != nullptr) {

@@ -10,8 +10,7 @@ namespace attrmgr {
 using IdToPtr = decltype(id_to_ptr);
 extern IdToPtr *const kOwnIdToPtr;
 
-// True where no process has put its own table in the place of this one, in which a handle is an address. Then there is
-// nothing to call: every operation begins with a handle.
+// True where the process has not put its own table in the place of this one (replaceable.h).
 inline bool handles_are_addresses() { return id_to_ptr == kOwnIdToPtr; }
 
 // The table's number for the id_ calls; 0 before the client process has registered.

@@ -7,6 +7,8 @@
 
 #include <attrmgr/aaa_platform.h>
 
+#include "platform/replaceable.h"
+
 namespace {
 
 constexpr int kGroups = 8;
@@ -49,7 +51,7 @@ char *put_ipv4(char *at, const std::uint8_t *bytes) {
 
 }  // namespace
 
-[[gnu::weak]] char *ipv6_address_to_string(const std::uint8_t *address, char *text) {
+ATTRMGR_REPLACEABLE char *ipv6_address_to_string(const std::uint8_t *address, char *text) {
   if (address == nullptr || text == nullptr) return text;
   unsigned groups[kGroups];
   for (std::size_t i = 0; i < kGroups; ++i) groups[i] = unsigned{address[2 * i]} << 8 | address[2 * i + 1];

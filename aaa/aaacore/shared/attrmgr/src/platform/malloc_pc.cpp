@@ -6,7 +6,9 @@
 
 #include <attrmgr/aaa_platform.h>
 
-[[gnu::weak]] void *malloc_pc(std::size_t size, const void *owner) {
+#include "platform/replaceable.h"
+
+ATTRMGR_REPLACEABLE void *malloc_pc(std::size_t size, const void *owner) {
   if (size > SIZE_MAX - sizeof owner) return nullptr;
   char *allocation = static_cast<char *>(std::malloc(size + sizeof owner));
   if (allocation != nullptr) std::memcpy(allocation + size, &owner, sizeof owner);

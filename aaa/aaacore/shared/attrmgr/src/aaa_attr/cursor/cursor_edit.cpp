@@ -17,8 +17,8 @@ void aaa_cursor_remove(aaa_cursor *cursor) {
     return;
   }
   record.mark_deleted();
-  BlockView head;
-  if (resolve(cursor->handle, &head) == 0) note(head, kMayNeedPacking);
+  const auto [head, error] = resolve(cursor->handle);
+  if (!error) note(head, kMayNeedPacking);
 }
 
 aaa_attr_cerrno aaa_cursor_set_producer_client_type(aaa_cursor *cursor, std::uint32_t client_type) {
@@ -32,5 +32,5 @@ aaa_attr_cerrno aaa_cursor_list_add_attr(aaa_attr_list_handle list, const aaa_cu
   const RecordView record = current_record(cursor);
   if (!record) return AAA_ATTR_ERR_BAD_ARG;
   if (in_buffer(*cursor) && is_grouped(record)) return AAA_ATTR_ERR_BAD_ARG;
-  return add_attribute(list, attribute_of(record));
+  return add_attribute(list, attribute_of(record)).code;
 }

@@ -3,6 +3,7 @@
 #include <attrmgr/aaa_attr_dict.h>
 #include <attrmgr/aaa_cursor.h>
 
+#include "aaa_attr/result/error.h"
 #include "aaa_attr/store/attribute.h"
 #include "aaa_attr/walk/cursor_step.h"
 #include "dictionary/type_table.h"
@@ -13,12 +14,23 @@ using namespace attrmgr;
 
 // A number of exactly this many stored bytes.
 template <class T>
-aaa_attr_cerrno read_number(const aaa_cursor *cursor, T *value) {
+Error read_number(const aaa_cursor *cursor, T *value) {
   const RecordView record = current_record(cursor);
   if (!record || value == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   if (record.length() != sizeof(T)) return AAA_ATTR_ERR_BAD_FORMAT;
   *value = load<T>(record.value());
   return 0;
+}
+
+const void *read_value(RecordView record, std::uint32_t *length) {
+  if (!record || length == nullptr) return nullptr;
+  *length = reported_length(record);
+  return record.value();
+}
+
+std::uint32_t format_at(const aaa_cursor *cursor) {
+  const RecordView record = current_record(cursor);
+  return record ? format_of(record.type()) : AAA_ATTR_FMT_INVALID;
 }
 
 const TypeRow *row_at(const aaa_cursor *cursor) {
@@ -29,27 +41,24 @@ const TypeRow *row_at(const aaa_cursor *cursor) {
 }  // namespace
 
 const void *aaa_cursor_get(const aaa_cursor *cursor, std::uint32_t *length) {
-  const RecordView record = current_record(cursor);
-  if (!record || length == nullptr) return nullptr;
-  *length = reported_length(record);
-  return record.value();
+  return read_value(current_record(cursor), length);
 }
 
 const char *aaa_cursor_get_string(const aaa_cursor *cursor, std::uint32_t *length) {
-  if (aaa_cursor_get_format(cursor) != AAA_ATTR_FMT_STRING) return nullptr;
-  return static_cast<const char *>(aaa_cursor_get(cursor, length));
+  if (format_at(cursor) != AAA_ATTR_FMT_STRING) return nullptr;
+  return static_cast<const char *>(read_value(current_record(cursor), length));
 }
 
 aaa_attr_cerrno aaa_cursor_get_uint32_t(const aaa_cursor *cursor, std::uint32_t *value) {
-  return read_number(cursor, value);
+  return read_number(cursor, value).code;
 }
 
 aaa_attr_cerrno aaa_cursor_get_uint64_t(const aaa_cursor *cursor, std::uint64_t *value) {
-  return read_number(cursor, value);
+  return read_number(cursor, value).code;
 }
 
 aaa_attr_cerrno aaa_cursor_get_grouped_attr_handle(const aaa_cursor *cursor, aaa_attr_list_handle *sub_list) {
-  return read_number(cursor, sub_list);
+  return read_number(cursor, sub_list).code;
 }
 
 const aaa_attr_meta *aaa_cursor_get_meta(const aaa_cursor *cursor) {
@@ -78,17 +87,14 @@ std::uint32_t aaa_cursor_get_producer_client_type(const aaa_cursor *cursor) {
   return record ? record.client_type() : 0;
 }
 
-std::uint32_t aaa_cursor_get_format(const aaa_cursor *cursor) {
-  const TypeRow *row = row_at(cursor);
-  return row != nullptr ? row->format : AAA_ATTR_FMT_INVALID;
-}
+std::uint32_t aaa_cursor_get_format(const aaa_cursor *cursor) { return format_at(cursor); }
 
 const char *aaa_cursor_get_name(const aaa_cursor *cursor) {
   const RecordView record = current_record(cursor);
-  return record ? aaa_attr_get_name_from_type(record.type()) : nullptr;
+  return record ? type_name(record.type()) : nullptr;
 }
 
-int aaa_cursor_grouped(const aaa_cursor *cursor) { return aaa_cursor_get_format(cursor) == AAA_ATTR_FMT_GROUPED; }
+int aaa_cursor_grouped(const aaa_cursor *cursor) { return format_at(cursor) == AAA_ATTR_FMT_GROUPED; }
 
 int aaa_cursor_attr_is_class(const aaa_cursor *cursor, std::uint32_t mask) {
   const TypeRow *row = row_at(cursor);

@@ -10,34 +10,34 @@ namespace {
 using namespace attrmgr;
 
 // Whatever it is, and whatever is wrong with it.
-[[gnu::noinline]] aaa_attr_cerrno add_any(aaa_attr_list_handle list, std::uint32_t type, const void *value,
-                                          std::uint32_t length, const aaa_attr_meta *meta, std::uint32_t client_type) {
+[[gnu::noinline]] Error add_any(aaa_attr_list_handle list, std::uint32_t type, const void *value, std::uint32_t length,
+                                const aaa_attr_meta *meta, std::uint32_t client_type) {
   return add_attribute(list, {type, value, length, meta, client_type});
 }
 
 // Adds an attribute like most: nothing is wrong with it, nothing special about it, and the last block has room. There
 // is nothing to call then, and so no register to save, which is a tenth of the work.
 [[nodiscard]] inline bool add_plain(aaa_attr_list_handle list, const NewAttribute &attribute) {
-  if (check_presence(attribute) != 0 || attribute.length > kCopiedInline) return false;
+  if (check_presence(attribute) || attribute.length > kCopiedInline) return false;
   const BlockView head = head_at(list);
   if (!head) return false;
   const NewRecord record = measure(attribute);
   const ListEnd end(head);
-  const bool plain = (traits_of(attribute.type) & ~kEndsInNul) == 0 && check_length(attribute, record) == 0;
+  const bool plain = (traits_of(attribute.type) & ~kEndsInNul) == 0 && !check_length(attribute, record);
   if (!plain || record.size > end.last.free_bytes()) return false;
   write_record(end, attribute, record);
   return true;
 }
 
-inline aaa_attr_cerrno add(aaa_attr_list_handle list, std::uint32_t type, const void *value, std::uint32_t length,
-                           const aaa_attr_meta *meta, std::uint32_t client_type) {
+inline Error add(aaa_attr_list_handle list, std::uint32_t type, const void *value, std::uint32_t length,
+                 const aaa_attr_meta *meta, std::uint32_t client_type) {
   if (add_plain(list, {type, value, length, meta, client_type})) [[likely]]
     return 0;
   return add_any(list, type, value, length, meta, client_type);
 }
 
-aaa_attr_cerrno add_sub_list(aaa_attr_list_handle parent, aaa_attr_list_handle sub_list, std::uint32_t type,
-                             const aaa_attr_meta *meta) {
+Error add_sub_list(aaa_attr_list_handle parent, aaa_attr_list_handle sub_list, std::uint32_t type,
+                   const aaa_attr_meta *meta) {
   return add_any(parent, type, &sub_list, kHandleSize, meta, 0);
 }
 
@@ -45,12 +45,12 @@ aaa_attr_cerrno add_sub_list(aaa_attr_list_handle parent, aaa_attr_list_handle s
 
 aaa_attr_cerrno aaa_attr_add(aaa_attr_list_handle list, std::uint32_t type, const void *value, std::uint32_t length,
                              const aaa_attr_meta *meta) {
-  return add(list, type, value, length, meta, 0);
+  return add(list, type, value, length, meta, 0).code;
 }
 
 aaa_attr_cerrno aaa_attr_add_v1(aaa_attr_list_handle list, std::uint32_t type, const void *value, std::uint32_t length,
                                 const aaa_attr_meta *meta, std::uint32_t client_type) {
-  return add(list, type, value, length, meta, client_type);
+  return add(list, type, value, length, meta, client_type).code;
 }
 
 aaa_attr_cerrno aaa_attr_add_group_list(aaa_attr_list_handle parent, aaa_attr_list_handle *sub_list, std::uint32_t type,
@@ -58,10 +58,10 @@ aaa_attr_cerrno aaa_attr_add_group_list(aaa_attr_list_handle parent, aaa_attr_li
   if (sub_list == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   *sub_list = 0;
   List made;
-  if (const aaa_attr_cerrno code = create_list(ATTRMGR_CALLER, &made)) return code;
-  if (const aaa_attr_cerrno code = add_sub_list(parent, made.handle, type, meta)) {
-    release_list(made.handle);
-    return code;
+  if (const Error error = create_list(ATTRMGR_CALLER, &made)) return error.code;
+  if (const Error error = add_sub_list(parent, made.handle, type, meta)) {
+    free_list(made.handle);
+    return error.code;
   }
   *sub_list = made.handle;
   return 0;
@@ -69,5 +69,5 @@ aaa_attr_cerrno aaa_attr_add_group_list(aaa_attr_list_handle parent, aaa_attr_li
 
 aaa_attr_cerrno aaa_attr_add_existing_group_list(aaa_attr_list_handle parent, aaa_attr_list_handle sub_list,
                                                  std::uint32_t type, const aaa_attr_meta *meta) {
-  return add_sub_list(parent, sub_list, type, meta);
+  return add_sub_list(parent, sub_list, type, meta).code;
 }

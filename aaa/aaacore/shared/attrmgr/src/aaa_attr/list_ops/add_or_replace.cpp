@@ -34,15 +34,15 @@ void overwrite(RecordView found, const NewAttribute &attribute) {
   std::memmove(found.value(), attribute.value, attribute.length);
 }
 
-aaa_attr_cerrno append_noted(ListEnd &list, const NewAttribute &attribute, const NewRecord &record, TypeIndex *index) {
-  const aaa_attr_cerrno code = append_checked(list, attribute, record);
-  if (code == 0 && index != nullptr) index->appended(list.last, static_cast<std::size_t>(record.size));
-  return code;
+Error append_noted(ListEnd &list, const NewAttribute &attribute, const NewRecord &record, TypeIndex *index) {
+  const Error error = append_checked(list, attribute, record);
+  if (!error && index != nullptr) index->appended(list.last, static_cast<std::size_t>(record.size));
+  return error;
 }
 
 // The found record gives way to the attribute.
-aaa_attr_cerrno supersede(ListEnd &list, RecordView found, const NewAttribute &attribute, const NewRecord &record,
-                          TypeIndex *index) {
+Error supersede(ListEnd &list, RecordView found, const NewAttribute &attribute, const NewRecord &record,
+                TypeIndex *index) {
   remove_record(list.head, found);
   return append_noted(list, attribute, record, index);
 }
@@ -68,35 +68,31 @@ class Taken {
 };
 
 // A Grouped record that is replaced by its own sub-list keeps it; else the sub-list goes.
-aaa_attr_cerrno replace_grouped(ListEnd &list, RecordView found, NewAttribute attribute, const NewRecord &record,
-                                bool in_place, TypeIndex *index) {
+Error replace_grouped(ListEnd &list, RecordView found, NewAttribute attribute, const NewRecord &record, bool in_place,
+                      TypeIndex *index) {
   const Taken taken(&attribute);
   const aaa_attr_list_handle owned = sub_list_of(found);
-  if (!name_one_list(owned, taken.handle())) release_list(owned);
+  if (!name_one_list(owned, taken.handle())) free_list(owned);
   if (!in_place) return supersede(list, found, attribute, record, index);
   overwrite(found, attribute);
   return 0;
 }
 
-aaa_attr_cerrno check(aaa_attr_list_handle list, const NewAttribute &attribute, BlockView *head) {
+Error add_or_replace(aaa_attr_list_handle handle, const NewAttribute &attribute, OnOtherMeta on_other_meta) {
   if (attribute.type >= AAA_ATTR_TYPE_COUNT || attribute.value == nullptr) return AAA_ATTR_ERR_NOT_FOUND;
-  return resolve(list, head);
-}
-
-aaa_attr_cerrno add_or_replace(aaa_attr_list_handle handle, const NewAttribute &attribute, OnOtherMeta on_other_meta) {
-  BlockView head;
-  if (const aaa_attr_cerrno code = check(handle, attribute, &head)) return code;
+  const auto [head, error] = resolve(handle);
+  if (error) return error;
   ListEnd list(head);
   return add_or_replace(list, attribute, on_other_meta);
 }
 
 }  // namespace
 
-aaa_attr_cerrno add_or_replace(ListEnd &list, NewAttribute attribute, OnOtherMeta on_other_meta, TypeIndex *index) {
+Error add_or_replace(ListEnd &list, NewAttribute attribute, OnOtherMeta on_other_meta, TypeIndex *index) {
   // Everything that adding would refuse later is refused here, while the list is as it was.
-  if (const aaa_attr_cerrno code = check_presence(attribute)) return code;
+  if (const Error error = check_presence(attribute)) return error;
   const NewRecord record = measure(attribute);
-  if (const aaa_attr_cerrno code = check_length(attribute, record)) return code;
+  if (const Error error = check_length(attribute, record)) return error;
   if (adds_to_itself(list.head, attribute, record)) return AAA_ATTR_ERR_BAD_ARG;
 
   const auto type = static_cast<std::uint16_t>(attribute.type);
@@ -123,15 +119,15 @@ using namespace attrmgr;
 
 aaa_attr_cerrno aaa_attr_add_or_replace(aaa_attr_list_handle list, std::uint32_t type, const void *value,
                                         std::uint32_t length, const aaa_attr_meta *meta) {
-  return add_or_replace(list, {type, value, length, meta, 0}, OnOtherMeta::kSupersede);
+  return add_or_replace(list, {type, value, length, meta, 0}, OnOtherMeta::kSupersede).code;
 }
 
 aaa_attr_cerrno aaa_attr_add_or_replace_v1(aaa_attr_list_handle list, std::uint32_t type, const void *value,
                                            std::uint32_t length, const aaa_attr_meta *meta) {
-  return add_or_replace(list, {type, value, length, meta, 0}, OnOtherMeta::kAddAlongside);
+  return add_or_replace(list, {type, value, length, meta, 0}, OnOtherMeta::kAddAlongside).code;
 }
 
 aaa_attr_cerrno aaa_attr_add_or_replace_v2(aaa_attr_list_handle list, std::uint32_t type, const void *value,
                                            std::uint32_t length, const aaa_attr_meta *meta, std::uint32_t client_type) {
-  return add_or_replace(list, {type, value, length, meta, client_type}, OnOtherMeta::kSupersede);
+  return add_or_replace(list, {type, value, length, meta, client_type}, OnOtherMeta::kSupersede).code;
 }

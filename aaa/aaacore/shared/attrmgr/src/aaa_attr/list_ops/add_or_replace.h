@@ -15,7 +15,6 @@ enum class OnOtherMeta {
 };
 
 // With an index of the list, the found record is looked up there, and an added one is noted.
-[[nodiscard]] aaa_attr_cerrno add_or_replace(ListEnd &list, NewAttribute attribute, OnOtherMeta on_other_meta,
-                                             TypeIndex *index = nullptr);
+Error add_or_replace(ListEnd &list, NewAttribute attribute, OnOtherMeta on_other_meta, TypeIndex *index = nullptr);
 
 }  // namespace attrmgr

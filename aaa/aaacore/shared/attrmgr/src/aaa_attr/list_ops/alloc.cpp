@@ -8,7 +8,7 @@ using namespace attrmgr;
 aaa_attr_cerrno aaa_attr_list_alloc(aaa_attr_list_handle *list) {
   if (list == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   List made;
-  const aaa_attr_cerrno code = create_list(ATTRMGR_CALLER, &made);
+  const Error error = create_list(ATTRMGR_CALLER, &made);
   *list = made.handle;
-  return code;
+  return error.code;
 }

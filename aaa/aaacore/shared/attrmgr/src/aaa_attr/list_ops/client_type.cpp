@@ -3,19 +3,18 @@
 
 #include "aaa_attr/cursor/pooled_cursor.h"
 #include "aaa_attr/store/client_types.h"
-#include "aaa_attr/walk/cursor_step.h"
 
 namespace {
 
 using namespace attrmgr;
 
-aaa_attr_cerrno stamp(aaa_attr_list_handle list, std::uint32_t client_type, bool keep_valid) {
-  const PooledCursor cursor(list);
-  if (cursor.code() != 0) return cursor.code();
-  while (aaa_cursor_get_next(cursor.get()) != 0) {
-    const bool stamped = is_valid_client_type(record_of(*cursor.get()).client_type());
-    if (keep_valid && is_valid_client_type(client_type) && stamped) continue;
-    if (const aaa_attr_cerrno code = aaa_cursor_set_producer_client_type(cursor.get(), client_type)) return code;
+Error stamp(aaa_attr_list_handle list, std::uint32_t client_type, bool keep_valid) {
+  PooledCursor cursor(list);
+  if (cursor.error()) return cursor.error();
+  while (RecordView record = cursor.next()) {
+    if (!is_valid_client_type(client_type)) return AAA_ATTR_ERR_BAD_ARG;
+    if (keep_valid && is_valid_client_type(record.client_type())) continue;
+    record.set_client_type(client_type);
   }
   return 0;
 }
@@ -23,9 +22,9 @@ aaa_attr_cerrno stamp(aaa_attr_list_handle list, std::uint32_t client_type, bool
 }  // namespace
 
 aaa_attr_cerrno aaa_attr_list_set_producer_client_type(aaa_attr_list_handle list, std::uint32_t client_type) {
-  return stamp(list, client_type, false);
+  return stamp(list, client_type, false).code;
 }
 
 aaa_attr_cerrno aaa_attr_list_init_producer_client_type(aaa_attr_list_handle list, std::uint32_t client_type) {
-  return stamp(list, client_type, true);
+  return stamp(list, client_type, true).code;
 }

@@ -76,9 +76,9 @@ void pack_all(BlockView head) {
 
 }  // namespace
 
-aaa_attr_cerrno aaa_attr_list_coalesce(aaa_attr_list_handle list) {
-  BlockView head;
-  if (const aaa_attr_cerrno code = resolve(list, &head)) return code;
+Error aaa_attr_list_coalesce(aaa_attr_list_handle list) {
+  const auto [head, error] = resolve(list);
+  if (error) return error;
   if (head.block_count() == 0) return 0;
   if (noted(head, kMayNeedPacking)) {
     pack_all(head);

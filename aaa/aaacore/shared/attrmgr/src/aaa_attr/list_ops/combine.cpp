@@ -54,47 +54,47 @@ struct Combination {
   TypeIndex *index = nullptr;  // of the destination; null where that does not pay
 };
 
-aaa_attr_cerrno open_destination(Combination &combination) {
+Error open_destination(Combination &combination) {
   if (combination.destination.head) return 0;
-  BlockView head;
-  if (const aaa_attr_cerrno code = resolve(combination.handle, &head)) return code;
+  const auto [head, error] = resolve(combination.handle);
+  if (error) return error;
   combination.destination = ListEnd(head);
   return 0;
 }
 
-aaa_attr_cerrno write_attribute(Combination &combination, const NewAttribute &attribute) {
+Error write_attribute(Combination &combination, const NewAttribute &attribute) {
   // In the order in which adding looks at its arguments.
-  if (const aaa_attr_cerrno code = check_presence(attribute)) return code;
-  if (const aaa_attr_cerrno code = open_destination(combination)) return code;
+  if (const Error error = check_presence(attribute)) return error;
+  if (const Error error = open_destination(combination)) return error;
   if (!replaces(combination.rules.write, attribute.type)) return append(combination.destination, attribute);
   return add_or_replace(combination.destination, attribute, OnOtherMeta::kSupersede, combination.index);
 }
 
 // The step under every combination. A sub-list that was copied in vain is released.
-aaa_attr_cerrno take_record(Combination &combination, RecordView record) {
+Error take_record(Combination &combination, RecordView record) {
   NewAttribute attribute = attribute_of(record);
   if (combination.rules.client_type == ClientType::kDrop) attribute.client_type = 0;
   if (!is_grouped(record)) return write_attribute(combination, attribute);
 
   aaa_attr_list_handle sub_copy;
-  if (const auto code = copy_list(sub_list_of(record), combination.owner, &sub_copy)) return code;
+  if (const Error error = copy_list(sub_list_of(record), combination.owner, &sub_copy)) return error;
   attribute.value = &sub_copy;
-  const aaa_attr_cerrno code = write_attribute(combination, attribute);
-  if (code != 0) release_list(sub_copy);
-  return code;
+  const Error error = write_attribute(combination, attribute);
+  if (error) free_list(sub_copy);
+  return error;
 }
 
-aaa_attr_cerrno take_each(Combination &combination, BlockView from) {
+Error take_each(Combination &combination, BlockView from) {
   const std::uint32_t type = combination.rules.type;
   for (const RecordView record : Attributes(from)) {
     if (type != kAnyType && record.type() != type) continue;
-    if (const aaa_attr_cerrno code = take_record(combination, record)) return code;
+    if (const Error error = take_record(combination, record)) return error;
   }
   return 0;
 }
 
 // Not in line: only who replaces many attributes has the index on the stack.
-[[gnu::noinline]] aaa_attr_cerrno take_each_by_index(Combination &combination, BlockView from) {
+[[gnu::noinline]] Error take_each_by_index(Combination &combination, BlockView from) {
   TypeIndex index(combination.destination.head, from);
   combination.index = &index;
   return take_each(combination, from);
@@ -107,57 +107,56 @@ bool index_pays(const Rules &rules, BlockView source) {
   return rules.write != Write::kAppend && !few;
 }
 
-aaa_attr_cerrno combine(aaa_attr_list_handle destination, aaa_attr_list_handle source, const Rules &rules,
-                        const void *owner) {
+Error combine(aaa_attr_list_handle destination, aaa_attr_list_handle source, const Rules &rules, const void *owner) {
   if (destination == 0 || source == 0) return AAA_ATTR_ERR_BAD_ARG;
-  BlockView from;
-  if (const aaa_attr_cerrno code = resolve(source, &from)) return code;
+  const auto [from, error] = resolve(source);
+  if (error) return error;
   if (names_list_at(destination, from)) return AAA_ATTR_ERR_BAD_ARG;
   Combination combination{destination, rules, owner, {}};
   // A source of nothing leaves the destination alone, whatever its handle is.
   if (!index_pays(rules, from) || !*Attributes(from).begin()) return take_each(combination, from);
   // The first attribute that is written has the code of a handle that names no list.
-  return open_destination(combination) == 0 ? take_each_by_index(combination, from) : take_each(combination, from);
+  return open_destination(combination) ? take_each(combination, from) : take_each_by_index(combination, from);
 }
 
 // The first half of both replace-and-add forms.
-aaa_attr_cerrno remove_replaced(aaa_attr_list_handle destination, aaa_attr_list_handle source) {
+Error remove_replaced(aaa_attr_list_handle destination, aaa_attr_list_handle source) {
   if (destination == 0 || source == 0) return AAA_ATTR_ERR_BAD_ARG;
-  if (name_one_list(destination, source) && resolve_whole(source).code == 0) return AAA_ATTR_ERR_BAD_ARG;
-  const aaa_attr_cerrno code = remove_types_of(destination, source);
-  if (code != 0) std::fputs("Unable to remove attributes of list2 in list1", stderr);
-  return code;
+  if (name_one_list(destination, source) && !resolve_whole(source).error) return AAA_ATTR_ERR_BAD_ARG;
+  const Error error = remove_types_of(destination, source);
+  if (error) std::fputs("Unable to remove attributes of list2 in list1", stderr);
+  return error;
 }
 
 }  // namespace
 
 aaa_attr_cerrno aaa_attr_list_append_list(aaa_attr_list_handle destination, aaa_attr_list_handle source) {
-  return combine(destination, source, {Write::kAppend, ClientType::kKeep}, ATTRMGR_CALLER);
+  return combine(destination, source, {Write::kAppend, ClientType::kKeep}, ATTRMGR_CALLER).code;
 }
 
 aaa_attr_cerrno aaa_attr_list_merge_with_replace(aaa_attr_list_handle destination, aaa_attr_list_handle source) {
-  return combine(destination, source, {Write::kReplace, ClientType::kKeep}, ATTRMGR_CALLER);
+  return combine(destination, source, {Write::kReplace, ClientType::kKeep}, ATTRMGR_CALLER).code;
 }
 
 aaa_attr_cerrno aaa_attr_list_copy_by_type(aaa_attr_list_handle source, aaa_attr_list_handle destination,
                                            std::uint32_t type) {
-  return combine(destination, source, {Write::kAppend, ClientType::kDrop, type}, ATTRMGR_CALLER);
+  return combine(destination, source, {Write::kAppend, ClientType::kDrop, type}, ATTRMGR_CALLER).code;
 }
 
 aaa_attr_cerrno aaa_attr_list_merge_double_dip(aaa_attr_list_handle destination, aaa_attr_list_handle source) {
-  return combine(destination, source, {Write::kDoubleDip, ClientType::kDrop}, ATTRMGR_CALLER);
+  return combine(destination, source, {Write::kDoubleDip, ClientType::kDrop}, ATTRMGR_CALLER).code;
 }
 
 aaa_attr_cerrno aaa_attr_list_replace_and_add(aaa_attr_list_handle destination, aaa_attr_list_handle source) {
-  if (const aaa_attr_cerrno code = remove_replaced(destination, source)) return code;
-  return combine(destination, source, {Write::kAppend, ClientType::kDrop}, ATTRMGR_CALLER);
+  if (const Error error = remove_replaced(destination, source)) return error.code;
+  return combine(destination, source, {Write::kAppend, ClientType::kDrop}, ATTRMGR_CALLER).code;
 }
 
 aaa_attr_cerrno aaa_attr_list_replace_and_add_v1(aaa_attr_list_handle *list1, aaa_attr_list_handle *list2) {
   if (list1 == nullptr || list2 == nullptr) return AAA_ATTR_ERR_BAD_ARG;
-  if (const aaa_attr_cerrno code = remove_replaced(*list1, *list2)) return code;
+  if (const Error error = remove_replaced(*list1, *list2)) return error.code;
   const Rules append_all{Write::kAppend, ClientType::kKeep};
-  if (const aaa_attr_cerrno code = combine(*list2, *list1, append_all, ATTRMGR_CALLER)) return code;
+  if (const Error error = combine(*list2, *list1, append_all, ATTRMGR_CALLER)) return error.code;
   std::swap(*list1, *list2);
   return 0;
 }

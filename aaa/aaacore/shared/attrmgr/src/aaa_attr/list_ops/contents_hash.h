@@ -45,12 +45,12 @@ class HashBits {
 class Contents {
  public:
   std::uint64_t of_list(aaa_attr_list_handle list) const {
-    const Resolved resolved = resolve(list);
-    if (resolved.code != 0) return hasher_.of_number(list);
+    const auto [head, error] = resolve(list);
+    if (error) return hasher_.of_number(list);
     HashBits<32> bits;
-    for (const RecordView record : Attributes(resolved.head)) bits.insert(of_record(record));
+    for (const RecordView record : Attributes(head)) bits.insert(of_record(record));
     const std::uint64_t hash = bits.hash(hasher_);
-    return bits.crowded() ? hash ^ of_many_values(resolved.head) : hash;
+    return bits.crowded() ? hash ^ of_many_values(head) : hash;
   }
 
   std::uint64_t of_record(RecordView record) const {

@@ -15,7 +15,7 @@
 namespace attrmgr {
 namespace {
 
-aaa_attr_cerrno copy_block(BlockView from, BlockView to) {
+Error copy_block(BlockView from, BlockView to) {
   const std::size_t size = to.size();
   const std::size_t used = from.used();
   if (from.version() != to.version() || used > size) return AAA_ATTR_ERR_BAD_LIST;
@@ -27,52 +27,52 @@ aaa_attr_cerrno copy_block(BlockView from, BlockView to) {
 }
 
 // Copies what belongs to the source alone. *flags: those of all blocks together.
-aaa_attr_cerrno copy_blocks(BlockView source, BlockView copy, std::uint8_t *flags) {
+Error copy_blocks(BlockView source, BlockView copy, std::uint8_t *flags) {
   BlockView from = source;
   BlockView to = copy;
-  aaa_attr_cerrno code = copy_block(from, to);
+  Error error = copy_block(from, to);
   *flags = from.flags();
-  while (code == 0 && (from = from.next())) {
+  while (!error && (from = from.next())) {
     *flags |= from.flags();
     to = aaa_attr_list_add_block(BlockView(), to, from.used());
-    code = to ? copy_block(from, to) : AAA_ATTR_ERR_NO_MEMORY;
+    error = to ? copy_block(from, to) : AAA_ATTR_ERR_NO_MEMORY;
   }
   note(copy, source.own_word() & (kMayNeedPacking | kMayHoldTypeZero));
-  if (code == 0) set_tail(copy, to);
-  return code;
+  if (!error) set_tail(copy, to);
+  return error;
 }
 
 // Gives the Grouped records of a block copies of their sub-lists. After a failure the handles that were copied with the
 // blocks become 0, so that releasing the copy leaves the source's sub-lists alone.
-aaa_attr_cerrno copy_sub_lists(BlockView block, const void *owner, aaa_attr_cerrno code) {
+Error copy_sub_lists(BlockView block, const void *owner, Error error) {
   for (const RecordView record : BlockRecords(block)) {
     if (!is_grouped(record) || record.length() != kHandleSize) continue;
     aaa_attr_list_handle sub_copy = 0;
-    if (code == 0) code = copy_list(sub_list_of(record), owner, &sub_copy);
+    if (!error) error = copy_list(sub_list_of(record), owner, &sub_copy);
     store(record.value(), sub_copy);
   }
-  return code;
+  return error;
 }
 
-aaa_attr_cerrno copy_all_sub_lists(BlockView copy, const void *owner, aaa_attr_cerrno code) {
+Error copy_all_sub_lists(BlockView copy, const void *owner, Error error) {
   for (const BlockView block : Blocks(copy))
-    if (block.has(kBlockHoldsGrouped)) code = copy_sub_lists(block, owner, code);
-  return code;
+    if (block.has(kBlockHoldsGrouped)) error = copy_sub_lists(block, owner, error);
+  return error;
 }
 
 }  // namespace
 
-aaa_attr_cerrno copy_list(aaa_attr_list_handle source, const void *owner, aaa_attr_list_handle *copy) {
-  BlockView from;
-  if (const aaa_attr_cerrno code = resolve(source, &from)) return code;
+Error copy_list(aaa_attr_list_handle source, const void *owner, aaa_attr_list_handle *copy) {
+  const auto [from, refused] = resolve(source);
+  if (refused) return refused;
   List made;
-  if (const aaa_attr_cerrno code = create_checked_list(owner, &made)) return code;
+  if (const Error error = create_checked_list(owner, &made)) return error;
   std::uint8_t flags;
-  aaa_attr_cerrno code = copy_blocks(from, made.head, &flags);
-  if ((flags & kBlockHoldsGrouped) != 0) code = copy_all_sub_lists(made.head, owner, code);
-  if (code != 0) {
-    release_list(made.handle);
-    return code;
+  Error error = copy_blocks(from, made.head, &flags);
+  if ((flags & kBlockHoldsGrouped) != 0) error = copy_all_sub_lists(made.head, owner, error);
+  if (error) {
+    free_list(made.handle);
+    return error;
   }
   *copy = made.handle;
   return 0;
@@ -81,5 +81,5 @@ aaa_attr_cerrno copy_list(aaa_attr_list_handle source, const void *owner, aaa_at
 }  // namespace attrmgr
 
 aaa_attr_cerrno aaa_attr_list_copy(aaa_attr_list_handle source, aaa_attr_list_handle *copy) {
-  return copy != nullptr ? attrmgr::copy_list(source, ATTRMGR_CALLER, copy) : AAA_ATTR_ERR_BAD_ARG;
+  return copy != nullptr ? attrmgr::copy_list(source, ATTRMGR_CALLER, copy).code : AAA_ATTR_ERR_BAD_ARG;
 }

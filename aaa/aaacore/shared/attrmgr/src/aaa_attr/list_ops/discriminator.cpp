@@ -3,10 +3,18 @@
 
 #include <attrmgr/aaa_attr.h>
 
-void aaa_attr_discrim_pack(std::uint8_t *discriminator, std::uint8_t service, std::uint8_t protocol) {
+namespace {
+
+void write(std::uint8_t *discriminator, std::uint8_t service, std::uint8_t protocol) {
   if (discriminator == nullptr) return;
   discriminator[0] = service;
   discriminator[1] = protocol;
 }
 
-void aaa_attr_discrim_init(std::uint8_t *discriminator) { aaa_attr_discrim_pack(discriminator, 0, 0); }
+}  // namespace
+
+void aaa_attr_discrim_pack(std::uint8_t *discriminator, std::uint8_t service, std::uint8_t protocol) {
+  write(discriminator, service, protocol);
+}
+
+void aaa_attr_discrim_init(std::uint8_t *discriminator) { write(discriminator, 0, 0); }

@@ -108,7 +108,7 @@ class Groups {
   void met_again(WindowEntry &known, RecordView equal) const {
     const Resolved known_list = resolve(sub_list_of(known.record));
     const Resolved other_list = resolve(sub_list_of(equal));
-    if (known_list.code != 0 || other_list.code != 0) return;
+    if (known_list.error || other_list.error) return;
     if (count_records(other_list.head) < count_records(known_list.head)) known.record = equal;
   }
 
@@ -231,7 +231,7 @@ bool few_values_equal(BlockView list1, BlockView list2, const Values &values) {
 bool values_equal(BlockView list1, BlockView list2, bool among_groups, Windows &windows) {
   const Values values(among_groups);
   if (count_records(list1) <= FewRecords::kMost) return few_values_equal(list1, list2, values);
-  const RecordWindow window(windows.values, 0, std::min(count_records(list1), kValueEntries));
+  const RecordWindow window(windows.values, 0, std::min<std::size_t>(count_records(list1), kValueEntries));
   return SetComparison(list1, list2, values, window).equal();
 }
 

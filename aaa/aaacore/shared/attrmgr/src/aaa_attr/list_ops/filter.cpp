@@ -37,10 +37,10 @@ class Kept {
   TypeSet set_;
 };
 
-aaa_attr_cerrno append_kept(BlockView from, BlockView to) {
+Error append_kept(BlockView from, BlockView to) {
   ListEnd end(to);
   for (const RecordView record : Attributes(from))
-    if (const aaa_attr_cerrno code = append(end, attribute_of(record))) return code;
+    if (const Error error = append(end, attribute_of(record))) return error;
   return 0;
 }
 
@@ -55,22 +55,22 @@ void give_up_sub_lists(BlockView from) {
 aaa_attr_cerrno aaa_attr_filter_on_type(aaa_attr_list_handle *list, const std::uint32_t *types, std::uint32_t count) {
   const auto num_types = static_cast<std::uint8_t>(count);
   if (list == nullptr || (types == nullptr && num_types != 0)) return AAA_ATTR_ERR_BAD_ARG;
-  BlockView old;
-  if (const aaa_attr_cerrno code = resolve(*list, &old)) return code;
+  const auto [head, refused] = resolve(*list);
+  if (refused) return refused.code;
   const Kept kept(types, num_types);
-  for (const RecordView record : Attributes(old))
-    if (!kept.contains(record.type())) remove_with_sub_list(old, record);
+  for (const RecordView record : Attributes(head))
+    if (!kept.contains(record.type())) remove_with_sub_list(head, record);
 
   List made;
-  if (const aaa_attr_cerrno code = create_list(ATTRMGR_CALLER, &made)) return code;
-  aaa_attr_cerrno code = resolve(*list, &old);
-  if (code == 0) code = append_kept(old, made.head);
-  if (code != 0) {
-    release_without_sub_lists(made.handle, made.head);
-    return code;
+  if (const Error error = create_list(ATTRMGR_CALLER, &made)) return error.code;
+  // Once more: a handle table may have changed while the new list was made.
+  const auto [rest, gone] = resolve(*list);
+  if (const Error error = gone ? gone : append_kept(rest, made.head)) {
+    free_without_sub_lists(made.handle, made.head);
+    return error.code;
   }
-  give_up_sub_lists(old);
-  release_list(*list);
+  give_up_sub_lists(rest);
+  free_list(*list);
   *list = made.handle;
   return 0;
 }

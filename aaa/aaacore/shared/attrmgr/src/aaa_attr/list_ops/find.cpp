@@ -10,17 +10,16 @@ namespace {
 
 using namespace attrmgr;
 
-aaa_attr_cerrno find(aaa_attr_list_handle list, std::uint32_t type, std::uint32_t n, RecordView *found) {
-  BlockView head;
-  if (const aaa_attr_cerrno code = resolve(list, &head)) return code;
+Error find(aaa_attr_list_handle list, std::uint32_t type, std::uint32_t n, RecordView *found) {
+  const auto [head, error] = resolve(list);
+  if (error) return error;
   *found = find_nth(head, type, n);
   return *found ? 0 : AAA_ATTR_ERR_NOT_FOUND;
 }
 
-aaa_attr_cerrno get(aaa_attr_list_handle list, std::uint32_t type, std::uint32_t n, const void **value,
-                    std::uint32_t *length) {
+Error get(aaa_attr_list_handle list, std::uint32_t type, std::uint32_t n, const void **value, std::uint32_t *length) {
   RecordView found;
-  if (const aaa_attr_cerrno code = find(list, type, n, &found)) return code;
+  if (const Error error = find(list, type, n, &found)) return error;
   *value = found.value();
   *length = reported_length(found);
   return 0;
@@ -28,10 +27,10 @@ aaa_attr_cerrno get(aaa_attr_list_handle list, std::uint32_t type, std::uint32_t
 
 // A number whose stored value has exactly its size, whatever the format.
 template <class T>
-aaa_attr_cerrno get_number(aaa_attr_list_handle list, std::uint32_t type, T *value) {
+Error get_number(aaa_attr_list_handle list, std::uint32_t type, T *value) {
   if (value == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   RecordView found;
-  if (const aaa_attr_cerrno code = find(list, type, 0, &found)) return code;
+  if (const Error error = find(list, type, 0, &found)) return error;
   if (found.length() != sizeof(T)) return AAA_ATTR_ERR_BAD_ARG;
   *value = load<T>(found.value());
   return 0;
@@ -41,13 +40,13 @@ aaa_attr_cerrno get_number(aaa_attr_list_handle list, std::uint32_t type, T *val
 
 int aaa_attr_is_present(aaa_attr_list_handle list, std::uint32_t type) {
   RecordView found;
-  return find(list, type, 0, &found) == 0;
+  return !find(list, type, 0, &found);
 }
 
 aaa_attr_cerrno aaa_attr_find_attr_type_number(aaa_attr_list_handle list, std::uint32_t type, std::uint16_t *count) {
   if (count == nullptr) return AAA_ATTR_ERR_BAD_ARG;
-  BlockView head;
-  if (const aaa_attr_cerrno code = resolve(list, &head)) return code;
+  const auto [head, error] = resolve(list);
+  if (error) return error.code;
   std::uint32_t found = 0;
   for ([[maybe_unused]] const RecordView record : RecordsOfType(head, type)) ++found;
   *count = static_cast<std::uint16_t>(found);
@@ -56,28 +55,28 @@ aaa_attr_cerrno aaa_attr_find_attr_type_number(aaa_attr_list_handle list, std::u
 
 aaa_attr_cerrno aaa_attr_get(aaa_attr_list_handle list, std::uint32_t type, const void **value, std::uint32_t *length) {
   if (value == nullptr || length == nullptr) return AAA_ATTR_ERR_BAD_ARG;
-  return get(list, type, 0, value, length);
+  return get(list, type, 0, value, length).code;
 }
 
 aaa_attr_cerrno aaa_attr_get_nth(aaa_attr_list_handle list, std::uint32_t type, const void **value,
                                  std::uint32_t *length, std::uint16_t n) {
   if (value == nullptr || length == nullptr) return AAA_ATTR_ERR_NOT_FOUND;
-  return get(list, type, n, value, length);
+  return get(list, type, n, value, length).code;
 }
 
 aaa_attr_cerrno aaa_attr_get_string(aaa_attr_list_handle list, std::uint32_t type, const char **text,
                                     std::uint32_t *length) {
   if (format_of(type) != AAA_ATTR_FMT_STRING || text == nullptr || length == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   const void *value;
-  const aaa_attr_cerrno code = get(list, type, 0, &value, length);
-  if (code == 0) *text = static_cast<const char *>(value);
-  return code;
+  const Error error = get(list, type, 0, &value, length);
+  if (!error) *text = static_cast<const char *>(value);
+  return error.code;
 }
 
 aaa_attr_cerrno aaa_attr_get_uint32_t(aaa_attr_list_handle list, std::uint32_t type, std::uint32_t *value) {
-  return get_number(list, type, value);
+  return get_number(list, type, value).code;
 }
 
 aaa_attr_cerrno aaa_attr_get_uint64_t(aaa_attr_list_handle list, std::uint32_t type, std::uint64_t *value) {
-  return get_number(list, type, value);
+  return get_number(list, type, value).code;
 }

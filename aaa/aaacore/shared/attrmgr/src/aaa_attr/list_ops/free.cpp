@@ -19,13 +19,10 @@ namespace {
 
 // The head of a list that may be freed; null for a handle that names none. The handle is looked up twice: a table that
 // knows it first and not a moment later deserves a word.
-BlockView head_to_release(aaa_attr_list_handle list) {
-  BlockView head;
-  if (resolve(list, &head) != 0) return {};
-  if (const aaa_attr_cerrno code = resolve(list, &head)) {
-    std::fprintf(stderr, "\nCursor init failed in aaa_attr_list_free - ret %d", static_cast<int>(code));
-    return {};
-  }
+BlockView head_to_free(aaa_attr_list_handle list) {
+  if (resolve(list).error) return {};
+  const auto [head, error] = resolve(list);
+  if (error) std::fprintf(stderr, "\nCursor init failed in aaa_attr_list_free - ret %d", static_cast<int>(error.code));
   return head;
 }
 
@@ -37,7 +34,7 @@ BlockView queue_sub_lists(BlockView block, BlockView tail) {
   for (const RecordView record : BlockRecords(block)) {
     const aaa_attr_list_handle sub_list = sub_list_of(record);
     if (sub_list == 0) continue;
-    BlockView head = head_to_release(sub_list);
+    BlockView head = head_to_free(sub_list);
     // A block without the head flag belongs to a list that has taken it in.
     if (!head || !head.has(kBlockHead)) continue;
     id_delete(sub_list, handle_table());
@@ -67,8 +64,8 @@ BlockView free_chain(BlockView block, std::uint8_t up_to = 0) {
 
 }  // namespace
 
-void release_list(aaa_attr_list_handle list) {
-  BlockView head = head_to_release(list);
+void free_list(aaa_attr_list_handle list) {
+  BlockView head = head_to_free(list);
   if (!head) return;
   const BlockView first = head.has(kBlockHoldsGrouped) ? head : free_chain(head.next(), kBlockHoldsGrouped);
   if (first) {
@@ -80,11 +77,11 @@ void release_list(aaa_attr_list_handle list) {
   id_delete(list, handle_table());
 }
 
-void release_without_sub_lists(aaa_attr_list_handle list, BlockView head) {
+void free_without_sub_lists(aaa_attr_list_handle list, BlockView head) {
   free_chain(head);
   id_delete(list, handle_table());
 }
 
 }  // namespace attrmgr
 
-void aaa_attr_list_free(aaa_attr_list_handle list) { attrmgr::release_list(list); }
+void aaa_attr_list_free(aaa_attr_list_handle list) { attrmgr::free_list(list); }

@@ -8,9 +8,9 @@
 namespace attrmgr {
 
 // aaa_attr_list_free.
-void release_list(aaa_attr_list_handle list);
+void free_list(aaa_attr_list_handle list);
 
 // Frees a list whose sub-lists belong to someone else.
-void release_without_sub_lists(aaa_attr_list_handle list, BlockView head);
+void free_without_sub_lists(aaa_attr_list_handle list, BlockView head);
 
 }  // namespace attrmgr

@@ -9,10 +9,10 @@
 using namespace attrmgr;
 
 aaa_attr_cerrno aaa_attr_list_merge_list(aaa_attr_list_handle destination, aaa_attr_list_handle source) {
-  BlockView to;
-  BlockView from;
-  if (const aaa_attr_cerrno code = resolve(destination, &to)) return code;
-  if (const aaa_attr_cerrno code = resolve(source, &from)) return code;
+  auto [to, to_error] = resolve(destination);
+  if (to_error) return to_error.code;
+  auto [from, from_error] = resolve(source);
+  if (from_error) return from_error.code;
   if (to == from) return AAA_ATTR_ERR_BAD_ARG;
   const std::uint32_t blocks = std::uint32_t{to.block_count()} + from.block_count();
   if (blocks > kBlockCountMax) return AAA_ATTR_ERR_NO_MEMORY;

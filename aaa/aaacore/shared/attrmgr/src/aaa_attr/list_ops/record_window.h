@@ -106,11 +106,4 @@ class RecordWindow {
   std::size_t size_ = 0;
 };
 
-// The records in the blocks of a list, removed ones included: no walk finds more.
-inline std::size_t count_records(BlockView list) {
-  std::size_t records = 0;
-  for (const BlockView block : Blocks(list)) records += block.record_count();
-  return records;
-}
-
 }  // namespace attrmgr

@@ -13,13 +13,13 @@
 using namespace attrmgr;
 
 void attrmgr::remove_with_sub_list(BlockView head, RecordView record) {
-  release_list(sub_list_of(record));
+  free_list(sub_list_of(record));
   remove_record(head, record);
 }
 
 aaa_attr_cerrno aaa_attr_remove(aaa_attr_list_handle list, std::uint32_t type) {
-  BlockView head;
-  if (const aaa_attr_cerrno code = resolve(list, &head)) return code;
+  const auto [head, error] = resolve(list);
+  if (error) return error.code;
   for (const RecordView record : RecordsOfType(head, type)) remove_with_sub_list(head, record);
   return 0;
 }
@@ -27,8 +27,8 @@ aaa_attr_cerrno aaa_attr_remove(aaa_attr_list_handle list, std::uint32_t type) {
 aaa_attr_cerrno aaa_attr_remove_on_match(aaa_attr_list_handle list, std::uint32_t type, const void *value,
                                          std::uint32_t length) {
   if (value == nullptr && length != 0) return AAA_ATTR_ERR_BAD_ARG;
-  BlockView head;
-  if (const aaa_attr_cerrno code = resolve(list, &head)) return code;
+  const auto [head, error] = resolve(list);
+  if (error) return error.code;
   for (const RecordView record : RecordsOfType(head, type))
     if (holds_value(record, value, length)) remove_record(head, record);
   return 0;

@@ -12,7 +12,6 @@
 #include "aaa_attr/list_ops/type_set.h"
 #include "aaa_attr/store/handle_check.h"
 #include "aaa_attr/store/list_blocks.h"
-#include "aaa_attr/walk/cursor_step.h"
 #include "aaa_attr/walk/list_walk.h"
 
 namespace attrmgr {
@@ -28,19 +27,19 @@ struct Pair {
   TypeSet other_types;
 };
 
-aaa_attr_cerrno open_pair(aaa_attr_list_handle list, aaa_attr_list_handle other, Pair *pair) {
+Error open_pair(aaa_attr_list_handle list, aaa_attr_list_handle other, Pair *pair) {
   pair->own = resolve_whole(list).head;
   pair->other = resolve_whole(other).head;
   return pair->own && pair->other ? 0 : AAA_ATTR_ERR_BAD_LIST;
 }
 
 // open_pair, with the types collected by a cursor from the pool.
-aaa_attr_cerrno open_pair_with_types(aaa_attr_list_handle list, aaa_attr_list_handle other, Pair *pair) {
-  if (const aaa_attr_cerrno code = open_pair(list, other, pair)) return code;
+Error open_pair_with_types(aaa_attr_list_handle list, aaa_attr_list_handle other, Pair *pair) {
+  if (const Error error = open_pair(list, other, pair)) return error;
   if (count_records(pair->other) == 0) return 0;
-  const PooledCursor cursor(other);
-  if (cursor.code() != 0) return cursor.code();
-  for (RecordView record; (record = step(cursor.get())) && record.type() != 0;) pair->other_types.insert(record.type());
+  PooledCursor cursor(other);
+  if (cursor.error()) return cursor.error();
+  while (const RecordView record = cursor.next()) pair->other_types.insert(record.type());
   return 0;
 }
 
@@ -56,7 +55,7 @@ aaa_attr_cerrno open_pair_with_types(aaa_attr_list_handle list, aaa_attr_list_ha
 [[gnu::noinline]] void remove_equal(const Pair &pair) {
   const RecordHasher hasher;
   WindowSpace<kWindowEntries> space;
-  RecordWindow window(space, 0, std::min(count_records(pair.other), kWindowEntries));
+  RecordWindow window(space, 0, std::min<std::size_t>(count_records(pair.other), kWindowEntries));
   for (Attributes::Iterator at(pair.other); *at;) {
     const auto find = [&window, &hasher](RecordView wanted) {
       return window.find(hasher.of_value(wanted), [wanted](const WindowEntry &entry) {
@@ -75,7 +74,7 @@ aaa_attr_cerrno open_pair_with_types(aaa_attr_list_handle list, aaa_attr_list_ha
 [[gnu::noinline]] void remove_common(const Pair &pair) {
   const RecordHasher hasher;
   WindowSpace<kWindowEntries> space;
-  RecordWindow window(space, 0, std::min(count_records(pair.own), kWindowEntries));
+  RecordWindow window(space, 0, std::min<std::size_t>(count_records(pair.own), kWindowEntries));
   for (Attributes::Iterator at(pair.own); *at;) {
     for (window.clear(); *at && !window.full(); ++at) window.add(hasher.of_number((*at).type()), *at);
     for (const RecordView other : Attributes(pair.other)) {
@@ -94,9 +93,9 @@ aaa_attr_cerrno open_pair_with_types(aaa_attr_list_handle list, aaa_attr_list_ha
 
 }  // namespace
 
-aaa_attr_cerrno remove_types_of(aaa_attr_list_handle list, aaa_attr_list_handle types_from) {
+Error remove_types_of(aaa_attr_list_handle list, aaa_attr_list_handle types_from) {
   Pair pair;
-  if (const aaa_attr_cerrno code = open_pair_with_types(list, types_from, &pair)) return code;
+  if (const Error error = open_pair_with_types(list, types_from, &pair)) return error;
   if (pair.other_types.has_others()) {
     remove_any_types(pair);
     return 0;
@@ -111,19 +110,19 @@ aaa_attr_cerrno remove_types_of(aaa_attr_list_handle list, aaa_attr_list_handle 
 using namespace attrmgr;
 
 aaa_attr_cerrno aaa_attr_list_remove_list(aaa_attr_list_handle list1, aaa_attr_list_handle list2) {
-  return remove_types_of(list1, list2);
+  return remove_types_of(list1, list2).code;
 }
 
 aaa_attr_cerrno aaa_attr_list_remove_list_on_match(aaa_attr_list_handle list1, aaa_attr_list_handle list2) {
   Pair pair;
-  if (const aaa_attr_cerrno code = open_pair_with_types(list1, list2, &pair)) return code;
+  if (const Error error = open_pair_with_types(list1, list2, &pair)) return error.code;
   remove_equal(pair);
   return 0;
 }
 
 aaa_attr_cerrno aaa_attr_list_remove_common_attrs(aaa_attr_list_handle list1, aaa_attr_list_handle list2) {
   Pair pair;
-  if (const aaa_attr_cerrno code = open_pair(list1, list2, &pair)) return code;
+  if (const Error error = open_pair(list1, list2, &pair)) return error.code;
   remove_common(pair);
   return 0;
 }

@@ -3,29 +3,25 @@
 
 #include "aaa_attr/cursor/pooled_cursor.h"
 #include "aaa_attr/store/handle_check.h"
-#include "aaa_attr/walk/cursor_step.h"
-#include "aaa_attr/walk/list_walk.h"
+#include "aaa_attr/walk/blocks.h"
 
 using namespace attrmgr;
 
 int is_aaa_attr_list_valid(aaa_attr_list_handle list, aaa_attr_cerrno *code) {
   if (code == nullptr) return 0;
-  *code = resolve_whole(list).code;
+  *code = resolve_whole(list).error.code;
   return *code == 0;
 }
 
 aaa_attr_cerrno is_aaa_attr_list_empty(aaa_attr_list_handle list, int *empty) {
-  if (empty == nullptr || resolve_whole(list).code != 0) return AAA_ATTR_ERR_BAD_LIST;
-  const PooledCursor cursor(list);
-  if (cursor.code() != 0) return cursor.code();
-  *empty = aaa_cursor_get_next(cursor.get()) == 0;
+  if (empty == nullptr || resolve_whole(list).error) return AAA_ATTR_ERR_BAD_LIST;
+  PooledCursor cursor(list);
+  if (cursor.error()) return cursor.error().code;
+  *empty = !cursor.next();
   return 0;
 }
 
 std::uint32_t aaa_attr_list_attr_count(aaa_attr_list_handle list) {
-  BlockView head;
-  if (resolve(list, &head) != 0) return 0;
-  std::uint32_t records = 0;
-  for (const BlockView block : Blocks(head)) records += block.record_count();
-  return records;
+  const auto [head, error] = resolve(list);
+  return error ? 0 : count_records(head);
 }

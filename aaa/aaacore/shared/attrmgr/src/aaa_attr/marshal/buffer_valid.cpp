@@ -3,6 +3,7 @@
 
 #include <attrmgr/aaa_attr_marshal.h>
 
+#include "aaa_attr/result/error.h"
 #include "aaa_attr/store/sub_list.h"
 #include "aaa_attr/walk/flat_reader.h"
 
@@ -12,10 +13,10 @@ using namespace attrmgr;
 
 using ValidatingReader = FlatReader<HostForm, FlatRules::kValid>;
 
-aaa_attr_cerrno check_buffer(const void *buffer, std::uint32_t length) {
+Error check_buffer(const void *buffer, std::uint32_t length) {
   const auto *bytes = static_cast<const std::byte *>(buffer);
   if (bytes == nullptr || length == 0 || bytes[0] != std::byte{AAA_MARSHAL_BUFFER}) return AAA_ATTR_ERR_BAD_ARG;
-  return ValidatingReader(bytes + 1, length - 1).read_to_end() ? 0 : AAA_ATTR_ERR_BAD_BUFFER;
+  return ValidatingReader(bytes + kMarkerSize, length - kMarkerSize).read_to_end() ? 0 : AAA_ATTR_ERR_BAD_BUFFER;
 }
 
 void scrub_block(BlockView block) {
@@ -29,12 +30,12 @@ void scrub_block(BlockView block) {
 
 int is_aaa_attr_buffer_valid(const void *buffer, std::uint32_t length, aaa_attr_cerrno *code) {
   if (code == nullptr) return 0;
-  *code = check_buffer(buffer, length);
+  *code = check_buffer(buffer, length).code;
   return *code == 0;
 }
 
 aaa_attr_cerrno aaa_attr_buffer_scrub(void *buffer, std::uint32_t length) {
-  if (const aaa_attr_cerrno code = check_buffer(buffer, length)) return code;
+  if (const Error error = check_buffer(buffer, length)) return error.code;
   ValidatingReader reader(static_cast<std::byte *>(buffer) + 1, length - 1);
   while (reader.next()) scrub_block(reader.block());
   return 0;

@@ -3,6 +3,7 @@
 #include <attrmgr/aaa_attr_dict.h>
 #include <attrmgr/aaa_attr_marshal.h>
 
+#include "aaa_attr/result/error.h"
 #include "aaa_attr/store/network_form.h"
 #include "aaa_attr/store/sub_list.h"
 #include "aaa_attr/walk/flat_reader.h"
@@ -65,7 +66,7 @@ void translate_header(BasicBlock<From> from) {
 }
 
 template <class From, class To>
-aaa_attr_cerrno translate(std::byte *list, std::uint64_t length) {
+Error translate(std::byte *list, std::uint64_t length) {
   WholeReader<From> reader(list, length);
   if (!holds_together(reader)) return AAA_ATTR_ERR_BAD_BUFFER;
   while (reader.next()) {
@@ -76,7 +77,7 @@ aaa_attr_cerrno translate(std::byte *list, std::uint64_t length) {
   return 0;
 }
 
-aaa_attr_cerrno translate_buffer(char *buffer, std::uint64_t length, cdm_endian_tran_type direction) {
+Error translate_buffer(char *buffer, std::uint64_t length, cdm_endian_tran_type direction) {
   if (buffer == nullptr || length == 0) return AAA_ATTR_ERR_BAD_ARG;
   auto *bytes = reinterpret_cast<std::byte *>(buffer);
   if (bytes[0] != std::byte{AAA_MARSHAL_BUFFER}) return AAA_ATTR_ERR_BAD_ARG;
@@ -88,9 +89,9 @@ aaa_attr_cerrno translate_buffer(char *buffer, std::uint64_t length, cdm_endian_
 }  // namespace
 
 aaa_attr_cerrno aaa_attrs_buffer_tran(char *buffer, cdm_endian_tran_type direction) {
-  return translate_buffer(buffer, kUnknownLength, direction);
+  return translate_buffer(buffer, kUnknownLength, direction).code;
 }
 
 aaa_attr_cerrno aaa_attrs_buffer_tran_v1(char *buffer, std::uint32_t length, cdm_endian_tran_type direction) {
-  return translate_buffer(buffer, length, direction);
+  return translate_buffer(buffer, length, direction).code;
 }

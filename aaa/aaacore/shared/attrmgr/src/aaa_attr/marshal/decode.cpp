@@ -10,7 +10,7 @@ namespace {
 
 using namespace attrmgr;
 
-aaa_attr_cerrno decode(const std::byte *buffer, std::uint32_t length, const List &list, const void *owner) {
+Error decode(const std::byte *buffer, std::uint32_t length, const List &list, const void *owner) {
   switch (std::to_integer<int>(buffer[0])) {
     case 0:
     case AAA_MARSHAL_BUFFER:
@@ -28,9 +28,9 @@ aaa_attr_cerrno aaa_attr_buffer_to_list(const void *buffer, std::uint32_t length
   if (buffer == nullptr || length == 0 || list == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   const void *owner = ATTRMGR_CALLER;
   List made;
-  if (const aaa_attr_cerrno code = create_checked_list(owner, &made)) return code;
-  const aaa_attr_cerrno code = decode(static_cast<const std::byte *>(buffer), length, made, owner);
-  if (code != 0) release_list(made.handle);
-  *list = code == 0 ? made.handle : 0;
-  return code;
+  if (const Error error = create_checked_list(owner, &made)) return error.code;
+  const Error error = decode(static_cast<const std::byte *>(buffer), length, made, owner);
+  if (error) free_list(made.handle);
+  *list = !error ? made.handle : 0;
+  return error.code;
 }

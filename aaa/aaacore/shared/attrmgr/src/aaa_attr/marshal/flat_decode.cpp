@@ -14,10 +14,10 @@ class FlatDecoder {
   FlatDecoder(const std::byte *bytes, std::uint32_t length, const List &list, const void *owner)
       : reader_(bytes, length), outer_(list), owner_(owner) {}
 
-  aaa_attr_cerrno decode() {
+  Error decode() {
     while (reader_.next()) {
       BlockView to;
-      if (const aaa_attr_cerrno code = make_block(&to)) return code;
+      if (const Error error = make_block(&to)) return error;
       copy_block(to);
       Level &level = levels_[reader_.depth()].value;
       level.last = to;
@@ -38,7 +38,7 @@ class FlatDecoder {
   };
 
   // The block that receives what the reader stands on.
-  aaa_attr_cerrno make_block(BlockView *to) {
+  Error make_block(BlockView *to) {
     if (!reader_.starts_list()) {
       const std::size_t record_bytes = reader_.block().used() - reader_.header_size();
       const BlockView last = levels_[reader_.depth()].value.last;
@@ -47,7 +47,7 @@ class FlatDecoder {
     }
     List made = outer_;
     if (reader_.depth() > 0) {
-      if (const aaa_attr_cerrno code = create_checked_list(owner_, &made)) return code;
+      if (const Error error = create_checked_list(owner_, &made)) return error;
       hand_over(made.handle, levels_[reader_.depth() - 1].value.records);
     }
     levels_[reader_.depth()].write({made.head, made.head, {}});
@@ -95,8 +95,8 @@ class FlatDecoder {
 
 }  // namespace
 
-aaa_attr_cerrno aaa_attr_buffer_blocks_to_list(const std::byte *bytes, std::uint32_t length, const List &list,
-                                               const void *owner) {
+Error aaa_attr_buffer_blocks_to_list(const std::byte *bytes, std::uint32_t length, const List &list,
+                                     const void *owner) {
   return length == 0 ? 0 : FlatDecoder(bytes, length, list, owner).decode();
 }
 

@@ -13,12 +13,10 @@ namespace {
 
 using namespace attrmgr;
 
-constexpr std::uint64_t kMarkerSize = 1;
-
 // The blocks of a list with its sub-lists in the order in which they lie in the buffer, and how long they are together.
 class FlatBlocks {
  public:
-  aaa_attr_cerrno operator()(BlockView block) {
+  Error operator()(BlockView block) {
     size_ += block.used();
     if (size_ > std::numeric_limits<std::uint32_t>::max()) return AAA_ATTR_ERR_BAD_FORMAT;
     if (num_blocks_ < kRemembered) blocks_[num_blocks_].write(block);
@@ -31,10 +29,10 @@ class FlatBlocks {
 
   // Calls visit(block) for each block once more. Those of most lists are remembered; else the lists are walked again.
   template <class Visit>
-  aaa_attr_cerrno revisit(aaa_attr_list_handle list, Visit &visit) const {
+  Error revisit(aaa_attr_list_handle list, Visit &visit) const {
     if (num_blocks_ > kRemembered) return for_each_flat_block(list, visit);
     for (std::size_t i = 0; i < num_blocks_; ++i)
-      if (const aaa_attr_cerrno code = visit(blocks_[i].value)) return code;
+      if (const Error error = visit(blocks_[i].value)) return error;
     return 0;
   }
 
@@ -48,11 +46,11 @@ class FlatBlocks {
 
 // Writes a buffer of exactly the size that was measured; a list that has changed since is refused, not written past the
 // end.
-aaa_attr_cerrno write(aaa_attr_list_handle list, const FlatBlocks &blocks, std::byte *buffer) {
+Error write(aaa_attr_list_handle list, const FlatBlocks &blocks, std::byte *buffer) {
   buffer[0] = std::byte{AAA_MARSHAL_BUFFER};
   std::byte *to = buffer + kMarkerSize;
   std::byte *const end = buffer + blocks.size();
-  auto copy_used = [&to, end](BlockView block) -> aaa_attr_cerrno {
+  auto copy_used = [&to, end](BlockView block) -> Error {
     const std::size_t used = block.used();
     if (used > static_cast<std::size_t>(end - to)) return AAA_ATTR_ERR_BAD_FORMAT;
     std::memcpy(to, block.bytes(), used);
@@ -60,20 +58,21 @@ aaa_attr_cerrno write(aaa_attr_list_handle list, const FlatBlocks &blocks, std::
     to += used;
     return 0;
   };
-  if (const aaa_attr_cerrno code = blocks.revisit(list, copy_used)) return code;
+  if (const Error error = blocks.revisit(list, copy_used)) return error;
   return to == end ? 0 : AAA_ATTR_ERR_BAD_FORMAT;
 }
 
-aaa_attr_cerrno measure(aaa_attr_list_handle list, std::uint32_t *size) {
+Error measure(aaa_attr_list_handle list, std::uint32_t *size) {
   FlatBlocks blocks;
-  const aaa_attr_cerrno code = for_each_flat_block(list, blocks);
-  if (code == 0) *size = blocks.size();
-  return code;
+  const Error error = for_each_flat_block(list, blocks);
+  if (!error) *size = blocks.size();
+  return error;
 }
 
-aaa_attr_cerrno encode(aaa_attr_list_handle list, void *buffer, std::uint32_t *size) {
+Error encode(aaa_attr_list_handle list, void *buffer, std::uint32_t *size) {
+  if (size == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   FlatBlocks blocks;
-  if (for_each_flat_block(list, blocks) != 0) {
+  if (for_each_flat_block(list, blocks)) {
     *size = 0;
     return AAA_ATTR_ERR_BAD_FORMAT;
   }
@@ -81,31 +80,31 @@ aaa_attr_cerrno encode(aaa_attr_list_handle list, void *buffer, std::uint32_t *s
     *size = blocks.size();
     return AAA_ATTR_ERR_BAD_FORMAT;
   }
-  const aaa_attr_cerrno code = write(list, blocks, static_cast<std::byte *>(buffer));
-  *size = code == 0 ? blocks.size() : 0;
-  return code;
+  const Error error = write(list, blocks, static_cast<std::byte *>(buffer));
+  *size = !error ? blocks.size() : 0;
+  return error;
 }
 
 }  // namespace
 
 aaa_attr_cerrno aaa_attr_list_buffer_len(aaa_attr_list_handle list, std::uint32_t *size) {
-  return size != nullptr ? measure(list, size) : AAA_ATTR_ERR_BAD_ARG;
+  return size != nullptr ? measure(list, size).code : AAA_ATTR_ERR_BAD_ARG;
 }
 
 aaa_attr_cerrno aaa_attr_list_buffer_coalesce_and_get_len(aaa_attr_list_handle list, std::uint32_t *size) {
   if (size == nullptr) return AAA_ATTR_ERR_BAD_ARG;
-  if (const aaa_attr_cerrno code = aaa_attr_list_coalesce(list)) return code;
-  return measure(list, size);
+  if (const Error error = aaa_attr_list_coalesce(list)) return error.code;
+  return measure(list, size).code;
 }
 
 aaa_attr_cerrno aaa_attr_list_to_buffer(aaa_attr_list_handle list, void *buffer, std::uint32_t *size) {
-  return size != nullptr ? encode(list, buffer, size) : AAA_ATTR_ERR_BAD_ARG;
+  return encode(list, buffer, size).code;
 }
 
 aaa_attr_cerrno aaa_attr_list_to_buffer_v1(aaa_attr_list_handle list, void *buffer, std::uint32_t *size) {
-  if (const aaa_attr_cerrno code = aaa_attr_list_coalesce(list)) {
+  if (const Error error = aaa_attr_list_coalesce(list)) {
     std::fputs("Coalesce on attribute list failed\n", stderr);
-    return code;
+    return error.code;
   }
-  return aaa_attr_list_to_buffer(list, buffer, size);
+  return encode(list, buffer, size).code;
 }

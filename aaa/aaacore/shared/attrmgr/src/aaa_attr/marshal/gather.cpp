@@ -15,28 +15,28 @@ using namespace attrmgr;
 // The byte in front of the blocks; the entries outlast the call.
 constexpr std::byte kMarker{AAA_MARSHAL_BUFFER};
 
-aaa_attr_cerrno count_entries(aaa_attr_list_handle list, std::uint32_t *needed) {
+Error count_entries(aaa_attr_list_handle list, std::uint32_t *needed) {
   std::uint64_t entries = 1;
-  auto count = [&entries](BlockView) -> aaa_attr_cerrno {
+  auto count = [&entries](BlockView) -> Error {
     ++entries;
     return entries > std::numeric_limits<std::uint32_t>::max() ? AAA_ATTR_ERR_BAD_FORMAT : 0;
   };
-  const aaa_attr_cerrno code = for_each_flat_block(list, count);
-  if (code == 0) *needed = static_cast<std::uint32_t>(entries);
-  return code;
+  const Error error = for_each_flat_block(list, count);
+  if (!error) *needed = static_cast<std::uint32_t>(entries);
+  return error;
 }
 
-aaa_attr_cerrno fill(aaa_attr_list_handle list, aaa_attr_array_entry *entries, std::uint32_t *count) {
+Error fill(aaa_attr_list_handle list, aaa_attr_array_entry *entries, std::uint32_t *count) {
   const std::uint32_t capacity = *count;
   std::uint32_t filled = 0;
   entries[filled++] = {&kMarker, sizeof kMarker};
-  auto describe = [entries, capacity, &filled](BlockView block) -> aaa_attr_cerrno {
+  auto describe = [entries, capacity, &filled](BlockView block) -> Error {
     if (filled < capacity) entries[filled++] = {block.bytes(), block.used()};
     return 0;
   };
-  const aaa_attr_cerrno code = for_each_flat_block(list, describe);
-  if (code == 0) *count = filled;
-  return code;
+  const Error error = for_each_flat_block(list, describe);
+  if (!error) *count = filled;
+  return error;
 }
 
 }  // namespace
@@ -44,7 +44,7 @@ aaa_attr_cerrno fill(aaa_attr_list_handle list, aaa_attr_array_entry *entries, s
 aaa_attr_cerrno aaa_attr_list_to_array(aaa_attr_list_handle list, aaa_attr_array_entry **array, std::uint32_t *count) {
   if (count == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   std::uint32_t needed;
-  if (const aaa_attr_cerrno code = count_entries(list, &needed)) return code;
+  if (const Error error = count_entries(list, &needed)) return error.code;
   const std::uint32_t capacity = *count;
   if (array == nullptr || (capacity != 0 && (capacity < needed || *array == nullptr))) {
     *count = needed;
@@ -56,5 +56,5 @@ aaa_attr_cerrno aaa_attr_list_to_array(aaa_attr_list_handle list, aaa_attr_array
     *array = static_cast<aaa_attr_array_entry *>(made);
   }
   *count = needed;
-  return fill(list, *array, count);
+  return fill(list, *array, count).code;
 }

@@ -1,4 +1,5 @@
-// IPv6 prefix values: reserved byte, prefix length in bits, 16 bytes of prefix.
+#include "aaa_attr/marshal/ipv6_prefix.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -6,6 +7,7 @@
 #include <attrmgr/aaa_attr_marshal.h>
 #include <attrmgr/aaa_platform.h>
 
+namespace attrmgr {
 namespace {
 
 constexpr std::size_t kLengthAt = 1;
@@ -15,14 +17,7 @@ static_assert(kPrefixAt + AAA_IPV6_ADDRESS_SIZE == AAA_IPV6_PREFIX_SIZE);
 
 }  // namespace
 
-void aaa_attr_encode_ipv6_prefix(const std::uint8_t *address, std::int32_t prefix_length, std::uint8_t *value) {
-  if (address == nullptr || value == nullptr) return;
-  value[0] = 0;
-  value[kLengthAt] = static_cast<std::uint8_t>(prefix_length & 0xFF);
-  std::memcpy(value + kPrefixAt, address, AAA_IPV6_ADDRESS_SIZE);
-}
-
-aaa_attr_cerrno aaa_attr_decode_ipv6_prefix(std::uint8_t *value, std::uint8_t *address, std::uint8_t *prefix_length) {
+Error decode_ipv6_prefix(std::uint8_t *value, std::uint8_t *address, std::uint8_t *prefix_length) {
   if (prefix_length == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   *prefix_length = 0;
   if (value == nullptr || address == nullptr || value[kLengthAt] > kLengthMax) return AAA_ATTR_ERR_BAD_ARG;
@@ -32,6 +27,21 @@ aaa_attr_cerrno aaa_attr_decode_ipv6_prefix(std::uint8_t *value, std::uint8_t *a
   std::memset(address, 0, AAA_IPV6_ADDRESS_SIZE);
   std::memcpy(address, value + kPrefixAt, (bits + 7) / 8);
   return 0;
+}
+
+}  // namespace attrmgr
+
+using namespace attrmgr;
+
+void aaa_attr_encode_ipv6_prefix(const std::uint8_t *address, std::int32_t prefix_length, std::uint8_t *value) {
+  if (address == nullptr || value == nullptr) return;
+  value[0] = 0;
+  value[kLengthAt] = static_cast<std::uint8_t>(prefix_length & 0xFF);
+  std::memcpy(value + kPrefixAt, address, AAA_IPV6_ADDRESS_SIZE);
+}
+
+aaa_attr_cerrno aaa_attr_decode_ipv6_prefix(std::uint8_t *value, std::uint8_t *address, std::uint8_t *prefix_length) {
+  return decode_ipv6_prefix(value, address, prefix_length).code;
 }
 
 char *aaa_attr_ipv6_address_to_string(const std::uint8_t *address, char *text) {

@@ -51,31 +51,31 @@ class TlvDecoder {
   explicit TlvDecoder(const void *owner) : owner_(owner) {}
 
   // Nested bodies are depth levels below the outer one.
-  aaa_attr_cerrno read_body(Reader &reader, BlockView head, unsigned depth) {
+  Error read_body(Reader &reader, BlockView head, unsigned depth) {
     Reader records;
     if (!reader.take_body(&records)) return AAA_ATTR_ERR_BAD_LENGTH;
     ListEnd list(head);
     while (records.left() >= kTlvRecordSizeMin) {
       NewAttribute attribute{};
-      if (const aaa_attr_cerrno code = read_type_and_meta(records, &attribute)) return code;
+      if (const Error error = read_type_and_meta(records, &attribute)) return error;
       const bool grouped = (traits_of(attribute.type) & kOwnsSubList) != 0;
       List sub_list;
-      const aaa_attr_cerrno read = grouped ? read_sub_list(records, depth, &sub_list) : read_value(records, &attribute);
-      if (read != 0) return read;
+      const Error read = grouped ? read_sub_list(records, depth, &sub_list) : read_value(records, &attribute);
+      if (read) return read;
       if (grouped) {
         attribute.value = &sub_list.handle;
         attribute.length = kHandleSize;
       }
-      if (const aaa_attr_cerrno code = append(list, attribute)) {
-        release_list(sub_list.handle);
-        return code;
+      if (const Error error = append(list, attribute)) {
+        free_list(sub_list.handle);
+        return error;
       }
     }
     return records.left() == 0 ? 0 : AAA_ATTR_ERR_BAD_LENGTH;
   }
 
  private:
-  static aaa_attr_cerrno read_type_and_meta(Reader &records, NewAttribute *attribute) {
+  static Error read_type_and_meta(Reader &records, NewAttribute *attribute) {
     std::uint32_t meta_length;
     if (!records.take_number(&attribute->type)) return AAA_ATTR_ERR_BAD_LENGTH;
     if (attribute->type == 0 || attribute->type >= AAA_ATTR_TYPE_COUNT) return AAA_ATTR_ERR_NOT_FOUND;
@@ -85,19 +85,19 @@ class TlvDecoder {
     return attribute->meta != nullptr ? 0 : AAA_ATTR_ERR_BAD_LENGTH;
   }
 
-  static aaa_attr_cerrno read_value(Reader &records, NewAttribute *attribute) {
+  static Error read_value(Reader &records, NewAttribute *attribute) {
     if (!records.take_number(&attribute->length)) return AAA_ATTR_ERR_BAD_LENGTH;
     attribute->value = records.take(attribute->length);
     return attribute->value != nullptr ? 0 : AAA_ATTR_ERR_BAD_LENGTH;
   }
 
   // Makes the list of a nested body; there is none on failure.
-  aaa_attr_cerrno read_sub_list(Reader &records, unsigned depth, List *sub_list) {
+  Error read_sub_list(Reader &records, unsigned depth, List *sub_list) {
     if (depth == AAA_ATTR_NESTING_MAX) return AAA_ATTR_ERR_BAD_LENGTH;
-    if (const aaa_attr_cerrno code = create_list(owner_, sub_list)) return code;
-    const aaa_attr_cerrno code = read_body(records, sub_list->head, depth + 1);
-    if (code != 0) release_list(sub_list->handle);
-    return code;
+    if (const Error error = create_list(owner_, sub_list)) return error;
+    const Error error = read_body(records, sub_list->head, depth + 1);
+    if (error) free_list(sub_list->handle);
+    return error;
   }
 
   const void *owner_;
@@ -105,8 +105,7 @@ class TlvDecoder {
 
 }  // namespace
 
-aaa_attr_cerrno aaa_attr_tlv_buffer_to_list(const std::byte *bytes, std::uint64_t length, BlockView list,
-                                            const void *owner) {
+Error aaa_attr_tlv_buffer_to_list(const std::byte *bytes, std::uint64_t length, BlockView list, const void *owner) {
   Reader reader(bytes, length);
   return TlvDecoder(owner).read_body(reader, list, 0);
 }

@@ -14,18 +14,30 @@ namespace {
 
 using namespace attrmgr;
 
+constexpr std::uint32_t kBufferOverhead = kTlvMarkerSize + kTlvTotalSize;
+constexpr std::uint64_t kRecordsMax = std::numeric_limits<std::uint32_t>::max() - kBufferOverhead;
+
 // Adds the size of the list's records to the total.
-aaa_attr_cerrno measure(aaa_attr_list_handle list, std::uint64_t *total) {
-  BlockView head;
-  if (const aaa_attr_cerrno code = resolve(list, &head)) return code;
+Error add_size(aaa_attr_list_handle list, std::uint64_t *total) {
+  const auto [head, refused] = resolve(list);
+  if (refused) return refused;
   for (const RecordView record : Attributes(head)) {
     *total += kTlvRecordSizeMin + (record.has_meta() ? kMetaSize : 0);
     if (!is_grouped(record)) {
       *total += reported_length(record);
-    } else if (const aaa_attr_cerrno code = measure(sub_list_of(record), total)) {
-      return code;
+    } else if (const Error error = add_size(sub_list_of(record), total)) {
+      return error;
     }
   }
+  return 0;
+}
+
+// *size: of the records, with those of sub-lists.
+Error measure(aaa_attr_list_handle list, std::uint32_t *size) {
+  std::uint64_t total = 0;
+  if (const Error error = add_size(list, &total)) return error;
+  if (total > kRecordsMax) return AAA_ATTR_ERR_BAD_FORMAT;
+  *size = static_cast<std::uint32_t>(total);
   return 0;
 }
 
@@ -57,9 +69,9 @@ class Writer {
   std::uint64_t room_;
 };
 
-aaa_attr_cerrno write_body(aaa_attr_list_handle list, Writer &writer);
+Error write_body(aaa_attr_list_handle list, Writer &writer);
 
-aaa_attr_cerrno write_record(RecordView record, Writer &writer) {
+Error write_record(RecordView record, Writer &writer) {
   const std::uint32_t meta_length = record.has_meta() ? kMetaSize : 0;
   if (!writer.put(record.type()) || !writer.put(meta_length)) return AAA_ATTR_ERR_BAD_FORMAT;
   if (!writer.put(record.meta_bytes(), meta_length)) return AAA_ATTR_ERR_BAD_FORMAT;
@@ -69,39 +81,24 @@ aaa_attr_cerrno write_record(RecordView record, Writer &writer) {
 }
 
 // Total and records.
-aaa_attr_cerrno write_body(aaa_attr_list_handle list, Writer &writer) {
-  BlockView head;
-  if (const aaa_attr_cerrno code = resolve(list, &head)) return code;
+Error write_body(aaa_attr_list_handle list, Writer &writer) {
+  const auto [head, refused] = resolve(list);
+  if (refused) return refused;
   std::byte *const total = writer.reserve(kTlvTotalSize);
   if (total == nullptr) return AAA_ATTR_ERR_BAD_FORMAT;
   for (const RecordView record : Attributes(head))
-    if (const aaa_attr_cerrno code = write_record(record, writer)) return code;
+    if (const Error error = write_record(record, writer)) return error;
   store(total, static_cast<std::uint32_t>(writer.at() - total));
   return 0;
 }
 
-constexpr std::uint64_t kBufferOverhead = kTlvMarkerSize + kTlvTotalSize;
-constexpr std::uint64_t kRecordsMax = std::numeric_limits<std::uint32_t>::max() - kBufferOverhead;
-
-}  // namespace
-
-aaa_attr_cerrno aaa_attr_list_tlv_buffer_len(aaa_attr_list_handle list, std::uint32_t *size) {
-  if (size == nullptr) return AAA_ATTR_ERR_BAD_ARG;
-  std::uint64_t total = 0;
-  if (const aaa_attr_cerrno code = measure(list, &total)) return code;
-  if (total > kRecordsMax) return AAA_ATTR_ERR_BAD_FORMAT;
-  *size = static_cast<std::uint32_t>(total);
-  return 0;
-}
-
-aaa_attr_cerrno aaa_attr_list_tlv_to_buffer(aaa_attr_list_handle list, void *buffer, std::uint32_t *size) {
-  if (size == nullptr) return AAA_ATTR_ERR_BAD_ARG;
+Error encode(aaa_attr_list_handle list, void *buffer, std::uint32_t *size) {
   std::uint32_t records;
-  if (const aaa_attr_cerrno code = aaa_attr_list_tlv_buffer_len(list, &records)) {
-    if (code == AAA_ATTR_ERR_BAD_FORMAT) *size = 0;  // no buffer can be large enough
-    return code;
+  if (const Error error = measure(list, &records)) {
+    if (error == AAA_ATTR_ERR_BAD_FORMAT) *size = 0;  // no buffer can be large enough
+    return error;
   }
-  const std::uint32_t needed = records + static_cast<std::uint32_t>(kBufferOverhead);
+  const std::uint32_t needed = records + kBufferOverhead;
   if (buffer == nullptr || *size < needed) {
     *size = needed;
     return AAA_ATTR_ERR_BAD_FORMAT;
@@ -109,7 +106,17 @@ aaa_attr_cerrno aaa_attr_list_tlv_to_buffer(aaa_attr_list_handle list, void *buf
   Writer writer(static_cast<std::byte *>(buffer), needed);
   const std::byte marker{AAA_MARSHAL_TLV};
   writer.put(&marker, sizeof marker);
-  const aaa_attr_cerrno code = write_body(list, writer);
-  *size = code == 0 ? needed : 0;
-  return code;
+  const Error error = write_body(list, writer);
+  *size = error ? 0 : needed;
+  return error;
+}
+
+}  // namespace
+
+aaa_attr_cerrno aaa_attr_list_tlv_buffer_len(aaa_attr_list_handle list, std::uint32_t *size) {
+  return size != nullptr ? measure(list, size).code : AAA_ATTR_ERR_BAD_ARG;
+}
+
+aaa_attr_cerrno aaa_attr_list_tlv_to_buffer(aaa_attr_list_handle list, void *buffer, std::uint32_t *size) {
+  return size != nullptr ? encode(list, buffer, size).code : AAA_ATTR_ERR_BAD_ARG;
 }

@@ -14,19 +14,19 @@ inline bool adds_to_itself(BlockView head, const NewAttribute &attribute, const 
          names_list_at(load<aaa_attr_list_handle>(static_cast<const std::byte *>(attribute.value)), head);
 }
 
-[[nodiscard]] inline aaa_attr_cerrno add_attribute(BlockView head, const NewAttribute &attribute) {
+inline Error add_attribute(BlockView head, const NewAttribute &attribute) {
   const NewRecord record = measure(attribute);
-  if (const aaa_attr_cerrno code = check_length(attribute, record)) return code;
+  if (const Error error = check_length(attribute, record)) return error;
   if (adds_to_itself(head, attribute, record)) return AAA_ATTR_ERR_BAD_ARG;
   ListEnd list(head);
   return append_checked(list, attribute, record);
 }
 
 // aaa_attr_add_v1, for whatever comes.
-[[nodiscard]] inline aaa_attr_cerrno add_attribute(aaa_attr_list_handle list, const NewAttribute &attribute) {
-  if (const aaa_attr_cerrno code = check_presence(attribute)) return code;
-  const Resolved resolved = resolve(list);
-  return resolved.code == 0 ? add_attribute(resolved.head, attribute) : resolved.code;
+inline Error add_attribute(aaa_attr_list_handle list, const NewAttribute &attribute) {
+  if (const Error error = check_presence(attribute)) return error;
+  const auto [head, error] = resolve(list);
+  return error ? error : add_attribute(head, attribute);
 }
 
 }  // namespace attrmgr

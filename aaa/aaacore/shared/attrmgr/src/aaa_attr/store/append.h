@@ -59,8 +59,7 @@ inline void write_record(const ListEnd &list, const NewAttribute &attribute, con
 }
 
 // Appends a checked attribute. AAA_ATTR_ERR_NO_MEMORY: no block could be chained; the list is unchanged.
-[[nodiscard]] inline aaa_attr_cerrno append_checked(ListEnd &list, const NewAttribute &attribute,
-                                                    const NewRecord &record) {
+inline Error append_checked(ListEnd &list, const NewAttribute &attribute, const NewRecord &record) {
   if (record.size > list.last.free_bytes()) [[unlikely]] {
     const auto size = static_cast<std::size_t>(record.size) + kHeaderSize;
     const BlockView block = aaa_attr_list_add_block(list.head, list.last, size);
@@ -72,10 +71,10 @@ inline void write_record(const ListEnd &list, const NewAttribute &attribute, con
 }
 
 // Checks the attribute and appends it.
-[[nodiscard]] inline aaa_attr_cerrno append(ListEnd &list, const NewAttribute &attribute) {
-  if (const aaa_attr_cerrno code = check_presence(attribute)) return code;
+inline Error append(ListEnd &list, const NewAttribute &attribute) {
+  if (const Error error = check_presence(attribute)) return error;
   const NewRecord record = measure(attribute);
-  if (const aaa_attr_cerrno code = check_length(attribute, record)) return code;
+  if (const Error error = check_length(attribute, record)) return error;
   return append_checked(list, attribute, record);
 }
 

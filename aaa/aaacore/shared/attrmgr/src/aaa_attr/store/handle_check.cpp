@@ -12,8 +12,8 @@ namespace {
 constexpr std::uint32_t kStatusValid = 0;
 constexpr std::uint32_t kStatusStale = 2;
 
-// Where a handle leads, if anywhere.
-void *address_behind(aaa_attr_list_handle list) {
+// The address that a handle stands for; null for none.
+void *address_named_by(aaa_attr_list_handle list) {
   if (list == 0) return nullptr;
   if (handles_are_addresses()) return reinterpret_cast<void *>(list);
   std::uint32_t status = kStatusValid;
@@ -34,20 +34,20 @@ Resolved look_up(aaa_attr_list_handle list) {
   return {head, 0};
 }
 
-bool names_list_at(aaa_attr_list_handle list, BlockView head) { return head && address_behind(list) == head.bytes(); }
-
-bool name_one_list(aaa_attr_list_handle a, aaa_attr_list_handle b) {
-  return a == b || names_list_at(a, BlockView(static_cast<std::byte *>(address_behind(b))));
-}
-
 Resolved resolve_whole(aaa_attr_list_handle list) {
   const Resolved resolved = resolve(list);
-  if (resolved.code != 0) return resolved;
+  if (resolved.error) return resolved;
   for (BlockView block = resolved.head.next(); block; block = block.next()) {
     if (block.magic() == kFreedMagic) return {{}, AAA_ATTR_ERR_STALE_HANDLE};
     if (block.magic() != kBlockMagic) return {{}, AAA_ATTR_ERR_BAD_LIST};
   }
   return resolved;
+}
+
+bool names_list_at(aaa_attr_list_handle list, BlockView head) { return head && address_named_by(list) == head.bytes(); }
+
+bool name_one_list(aaa_attr_list_handle a, aaa_attr_list_handle b) {
+  return a == b || names_list_at(a, BlockView(static_cast<std::byte *>(address_named_by(b))));
 }
 
 }  // namespace attrmgr

@@ -16,6 +16,8 @@
 
 namespace attrmgr {
 
+inline constexpr std::size_t kMarkerSize = 1;  // what stands before the blocks in a buffer
+
 inline constexpr std::uint16_t kBlockMagic = 0xABCD;
 inline constexpr std::uint16_t kFreedMagic = 0xFFFF;
 inline constexpr std::uint8_t kLayoutVersion = 1;

@@ -28,7 +28,7 @@ inline void write_header(BlockView block, std::size_t size, std::uint8_t flags) 
 
 }  // namespace
 
-aaa_attr_cerrno create_list(const void *owner, List *list) {
+Error create_list(const void *owner, List *list) {
   const BlockView head(static_cast<std::byte *>(malloc_pc(kBlockSize, owner)));
   if (!head) return AAA_ATTR_ERR_NO_MEMORY;
   write_header(head, kBlockSize, kBlockHead | kBlockLast | kBlockLayoutNative);
@@ -41,14 +41,13 @@ aaa_attr_cerrno create_list(const void *owner, List *list) {
   return 0;
 }
 
-aaa_attr_cerrno create_checked_list(const void *owner, List *list) {
+Error create_checked_list(const void *owner, List *list) {
   List made;
-  if (const aaa_attr_cerrno code = create_list(owner, &made)) return code;
-  BlockView named;
-  if (const aaa_attr_cerrno code = resolve(made.handle, &named)) {
+  if (const Error error = create_list(owner, &made)) return error;
+  if (const Error error = resolve(made.handle).error) {
     id_delete(made.handle, handle_table());
     free_block(made.head);
-    return code;
+    return error;
   }
   *list = made;
   return 0;

@@ -3,6 +3,7 @@
 
 #include <attrmgr/aaa_attr_types.h>
 
+#include "aaa_attr/result/error.h"
 #include "aaa_attr/store/views.h"
 
 namespace attrmgr {
@@ -13,10 +14,10 @@ struct List {
 };
 
 // Makes an empty list; owner is the code address on whose behalf. AAA_ATTR_ERR_NO_MEMORY: no block or no handle.
-[[nodiscard]] aaa_attr_cerrno create_list(const void *owner, List *list);
+Error create_list(const void *owner, List *list);
 
 // The same, and the new handle is looked up once: a list that the handle table refuses is released again.
-[[nodiscard]] aaa_attr_cerrno create_checked_list(const void *owner, List *list);
+Error create_checked_list(const void *owner, List *list);
 
 // Allocates a block of max(512, size) bytes and chains it after last. Counts it in the head if one is given; a caller
 // that gives none sets block count and tail itself. Null when memory is exhausted or the head counts 65,535 blocks.

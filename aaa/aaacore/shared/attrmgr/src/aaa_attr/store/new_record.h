@@ -6,6 +6,7 @@
 #include <attrmgr/aaa_attr_dict.h>
 #include <attrmgr/aaa_attr_types.h>
 
+#include "aaa_attr/result/error.h"
 #include "aaa_attr/store/attribute.h"
 #include "dictionary/format_rules.h"
 #include "dictionary/type_table.h"
@@ -29,13 +30,13 @@ inline NewRecord measure(const NewAttribute &attribute) {
 
 // Checks what the arguments alone decide, in two steps, since the list is checked between them.
 // Type and value: AAA_ATTR_ERR_NOT_FOUND for a number that is no type, AAA_ATTR_ERR_BAD_ARG for no value.
-[[nodiscard]] inline aaa_attr_cerrno check_presence(const NewAttribute &attribute) {
+inline Error check_presence(const NewAttribute &attribute) {
   if (attribute.type >= AAA_ATTR_TYPE_COUNT) return AAA_ATTR_ERR_NOT_FOUND;
   return attribute.value == nullptr || attribute.length == 0 ? AAA_ATTR_ERR_BAD_ARG : 0;
 }
 
 // Length: AAA_ATTR_ERR_BAD_ARG where it does not suit the format or no block could hold the record.
-[[nodiscard]] inline aaa_attr_cerrno check_length(const NewAttribute &attribute, const NewRecord &record) {
+inline Error check_length(const NewAttribute &attribute, const NewRecord &record) {
   const bool suits = kFormatRules.suits(record.format, attribute.length);
   return suits && record.size <= kBlockSizeMax - kHeaderSize ? 0 : AAA_ATTR_ERR_BAD_ARG;
 }

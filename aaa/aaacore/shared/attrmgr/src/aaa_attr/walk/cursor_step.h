@@ -36,4 +36,10 @@ void enter(aaa_cursor *cursor, BlockView block);
 // the walk for good.
 RecordView step(aaa_cursor *cursor);
 
+// The same; null as well at a record of type 0, where a client's walk ends.
+inline RecordView step_to_attribute(aaa_cursor *cursor) {
+  const RecordView record = step(cursor);
+  return record && record.type() != 0 ? record : RecordView();
+}
+
 }  // namespace attrmgr
