@@ -132,6 +132,23 @@ inline void marshal(aaa_attr_list_handle list) {
   std::free(entries);
 }
 
+// Why a reader refuses a buffer: with the same code as the reader, a rule if and only if it does, at a byte of the
+// buffer or at its end.
+inline aaa_attr_fault fault_of(const std::uint8_t *bytes, std::uint32_t length, aaa_attr_reader reader,
+                               aaa_attr_cerrno code) {
+  aaa_attr_fault fault = {77, 77};
+  REQUIRE(aaa_attr_buffer_fault(bytes, length, reader, &fault) == code);
+  REQUIRE((fault.rule != AAA_ATTR_RULE_NONE) == (code != 0) && fault.offset <= length);
+  REQUIRE((*aaa_attr_rule_text(fault.rule) != 0) == (code != 0));
+  return fault;
+}
+
+inline void require_fault(const std::uint8_t *bytes, std::uint32_t length, aaa_attr_reader reader, aaa_attr_cerrno code,
+                          const aaa_attr_fault &expected) {
+  const aaa_attr_fault fault = fault_of(bytes, length, reader, code);
+  REQUIRE(fault.rule == expected.rule && fault.offset == expected.offset);
+}
+
 // All of it, on a list that came out of a decoder.
 inline void use(aaa_attr_list_handle list) {
   aaa_attr_cerrno code = 0;

@@ -1,5 +1,5 @@
 // Any bytes as a flat buffer: the decoder accepts what the rules (flat_rules.h) accept, and that can be used in every
-// way and goes round unchanged.
+// way and goes round unchanged. What it refuses breaks the rule that is named, where it is said to.
 #include "exercise.h"
 #include "flat_mutator.h"
 #include "support/flat_rules.h"
@@ -9,9 +9,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
   bytes.insert(bytes.end(), data, data + size);
   exercise::Copy buffer(bytes.data(), bytes.size());
   aaa_attr_list_handle list = 1;
-  const aaa_attr_cerrno code = aaa_attr_buffer_to_list(buffer.data(), static_cast<std::uint32_t>(bytes.size()), &list);
-  const bool decodable = flat_rules::Reading(bytes.data(), bytes.size()).decodable();
-  REQUIRE(code == (decodable ? 0 : AAA_ATTR_ERR_BAD_BUFFER));
+  const auto length = static_cast<std::uint32_t>(bytes.size());
+  const aaa_attr_cerrno code = aaa_attr_buffer_to_list(buffer.data(), length, &list);
+  const flat_rules::Reading reading(bytes.data(), bytes.size(), AAA_ATTR_READER_LIST);
+  REQUIRE(code == (reading.accepted() ? 0 : AAA_ATTR_ERR_BAD_BUFFER));
+  exercise::require_fault(buffer.data(), length, AAA_ATTR_READER_LIST, code, reading.fault());
   if (code != 0) {
     REQUIRE(list == 0);
     return 0;

@@ -195,16 +195,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
   bytes.insert(bytes.end(), data, data + size);
   const auto length = static_cast<std::uint32_t>(bytes.size());
   Copy copy(bytes.data(), bytes.size());
-  const Buffer buffer = {copy.data(), Reading(bytes.data(), bytes.size())};
+  const Buffer buffer = {copy.data(), Reading(bytes.data(), bytes.size(), AAA_ATTR_READER_LIST)};
+  const Reading in_place(bytes.data(), bytes.size(), AAA_ATTR_READER_IN_PLACE);
 
   aaa_attr_cerrno code = 77;
   aaa_attr_list_handle list = 0;
-  REQUIRE((is_aaa_attr_buffer_valid(buffer.bytes, length, &code) == 1) == buffer.reading.valid());
-  REQUIRE(code == (buffer.reading.valid() ? 0 : AAA_ATTR_ERR_BAD_BUFFER));
-  REQUIRE((aaa_attr_buffer_to_list(buffer.bytes, length, &list) == 0) == buffer.reading.decodable());
+  REQUIRE((is_aaa_attr_buffer_valid(buffer.bytes, length, &code) == 1) == in_place.accepted());
+  REQUIRE(code == (in_place.accepted() ? 0 : AAA_ATTR_ERR_BAD_BUFFER));
+  exercise::require_fault(buffer.bytes, length, AAA_ATTR_READER_IN_PLACE, code, in_place.fault());
+  REQUIRE((aaa_attr_buffer_to_list(buffer.bytes, length, &list) == 0) == buffer.reading.accepted());
   REQUIRE((aaa_attr_buffer_is_alien(buffer.bytes, length) == 1) == (size >= 24 && (data[3] & 0x30) == 0x10));
   if (list != 0) see_list(list, buffer, 0);
-  if (!buffer.reading.valid()) {
+  if (!in_place.accepted()) {
     aaa_attr_list_free(list);
     return 0;
   }

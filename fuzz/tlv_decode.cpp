@@ -1,4 +1,4 @@
-// Any bytes as a TLV buffer: what the decoder accepts can be used in every way.
+// Any bytes as a TLV buffer: what the decoder accepts can be used in every way, and what it refuses breaks a rule.
 #include "exercise.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
@@ -6,7 +6,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
   bytes.insert(bytes.end(), data, data + size);
   exercise::Copy buffer(bytes.data(), bytes.size());
   aaa_attr_list_handle list = 1;
-  const aaa_attr_cerrno code = aaa_attr_buffer_to_list(buffer.data(), static_cast<std::uint32_t>(bytes.size()), &list);
+  const auto whole = static_cast<std::uint32_t>(bytes.size());
+  const aaa_attr_cerrno code = aaa_attr_buffer_to_list(buffer.data(), whole, &list);
+  exercise::fault_of(buffer.data(), whole, AAA_ATTR_READER_LIST, code);
   if (code != 0) {
     REQUIRE(list == 0 && (code == AAA_ATTR_ERR_BAD_LENGTH || code == AAA_ATTR_ERR_NOT_FOUND ||
                           code == AAA_ATTR_ERR_BAD_ARG || code == AAA_ATTR_ERR_NO_MEMORY));

@@ -6,14 +6,6 @@
 #include "flat_mutator.h"
 #include "support/flat_rules.h"
 
-namespace {
-
-bool translatable(const std::uint8_t *bytes, std::size_t size) {
-  return flat_rules::Reading(bytes, size, flat_rules::For::kTranslation).translatable();
-}
-
-}  // namespace
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
   for (const auto there : {CDM_ENDIAN_TRAN_HTON, CDM_ENDIAN_TRAN_NTOH}) {
     const auto back = there == CDM_ENDIAN_TRAN_HTON ? CDM_ENDIAN_TRAN_NTOH : CDM_ENDIAN_TRAN_HTON;
@@ -23,8 +15,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     exercise::Copy copy(bytes.data(), bytes.size());
     char *buffer = reinterpret_cast<char *>(copy.data());
     const aaa_attr_cerrno code = aaa_attrs_buffer_tran_v1(buffer, length, there);
-    if (there == CDM_ENDIAN_TRAN_HTON)
-      REQUIRE(code == (translatable(bytes.data(), bytes.size()) ? 0 : AAA_ATTR_ERR_BAD_BUFFER));
+    if (there == CDM_ENDIAN_TRAN_HTON) {
+      const flat_rules::Reading reading(bytes.data(), bytes.size(), AAA_ATTR_READER_HTON);
+      REQUIRE(code == (reading.accepted() ? 0 : AAA_ATTR_ERR_BAD_BUFFER));
+      exercise::require_fault(bytes.data(), length, AAA_ATTR_READER_HTON, code, reading.fault());
+    } else {
+      exercise::fault_of(bytes.data(), length, AAA_ATTR_READER_NTOH, code);
+    }
     if (code != 0) {
       REQUIRE(std::equal(bytes.begin(), bytes.end(), copy.data()));
       continue;
@@ -33,7 +30,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
       REQUIRE(aaa_attrs_buffer_tran_v1(buffer, length, there) == 0);
       continue;
     }
-    if (there == CDM_ENDIAN_TRAN_NTOH) REQUIRE(translatable(copy.data(), bytes.size()));
+    if (there == CDM_ENDIAN_TRAN_NTOH)
+      REQUIRE(flat_rules::Reading(copy.data(), bytes.size(), AAA_ATTR_READER_HTON).accepted());
     REQUIRE(aaa_attrs_buffer_tran_v1(buffer, length, there) == AAA_ATTR_ERR_BAD_BUFFER);
     REQUIRE(aaa_attrs_buffer_tran_v1(buffer, length, back) == 0);
     REQUIRE(std::equal(bytes.begin(), bytes.end(), copy.data()));

@@ -16,6 +16,9 @@ _Static_assert(sizeof(aaa_attr_value_table) == 16 && AT(aaa_attr_value_table, co
 _Static_assert(sizeof(aaa_author_bitmap) == 160 && sizeof(aaa_author_flags) == 16160, "authorization bitmaps");
 _Static_assert(sizeof(aaa_attr_list_handle) == 8 && sizeof(aaa_attr_cerrno) == 4, "handle and result code");
 _Static_assert(CDM_ENDIAN_TRAN_HTON == 1 && CDM_ENDIAN_TRAN_NTOH == 2 && sizeof(cdm_endian_tran_type) == 4, "tran");
+_Static_assert(sizeof(aaa_attr_fault) == 8 && AT(aaa_attr_fault, offset, 4) && AAA_ATTR_READER_NTOH == 4 &&
+                   sizeof(aaa_attr_reader) == 4 && AAA_ATTR_RULE_BOOLEAN_LENGTH == 27 && AAA_ATTR_RULE_TLV_ROOM == 37,
+               "faults, and rules, whose numbers stay");
 _Static_assert(AAA_ATTR_FMT_STRING_ATTR == 10 && AAA_ATTR_FMT_OPAQUE == 13 && AAA_ATTR_FMT_SPECIAL == 14 &&
                    AAA_ATTR_FMT_IPX_NETWORK == 15 && AAA_ATTR_FMT_DIAMETER_IDENTITY == 20 &&
                    AAA_ATTR_FMT_IP_FILTER_RULE == 21 && AAA_ATTR_FMT_QOS_FILTER_RULE == 22,

@@ -183,6 +183,13 @@ TEST(CppBytes, AreReadInPlaceOnceTheyAreChecked) {
 
   for (std::size_t size = 0; size < flat.size(); ++size)
     ASSERT_FALSE(flat_view::try_check(std::span(flat).first(size))) << size << " bytes";
+  EXPECT_FALSE(attrmgr::fault_of(flat, AAA_ATTR_READER_IN_PLACE));
+  const auto fault = attrmgr::fault_of(std::span(flat).first(20));
+  ASSERT_TRUE(fault);
+  EXPECT_EQ(fault->code, attrmgr::errc::bad_buffer);
+  EXPECT_EQ(fault->rule, AAA_ATTR_RULE_USED_MAX);
+  EXPECT_EQ(fault->offset, 11u);
+  EXPECT_STREQ(fault->sentence(), "a block's used bytes must end within the buffer");
   EXPECT_EQ(flat_view::try_check(made.to_tlv()).code(), AAA_ATTR_ERR_BAD_ARG);
 }
 

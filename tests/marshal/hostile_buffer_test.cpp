@@ -2,6 +2,9 @@
 #include <attrmgr/attrmgr.h>
 #include <gtest/gtest.h>
 
+#include <set>
+#include <tuple>
+
 #include "support/flat_rules.h"
 #include "support/malformed.h"
 
@@ -83,14 +86,25 @@ void read_in_place(const Bytes &buffer) {
   EXPECT_EQ(outline(scrubbed), outline(list));
 }
 
+std::string text_of(const aaa_attr_fault &fault) {
+  return "byte " + std::to_string(fault.offset) + ": " + aaa_attr_rule_text(fault.rule);
+}
+
 // Decoder, check and translation answer as the rules say, whatever the buffer.
 void expect_by_the_rules(const Bytes &buffer) {
-  const flat_rules::Reading translating(buffer.data(), buffer.size(), flat_rules::For::kTranslation);
-  EXPECT_EQ(translate(buffer), translating.translatable() ? 0 : AAA_ATTR_ERR_BAD_BUFFER);
-  const flat_rules::Reading reading(buffer.data(), buffer.size());
-  EXPECT_EQ(decode_soundly(buffer), reading.decodable() ? 0 : AAA_ATTR_ERR_BAD_BUFFER);
-  EXPECT_EQ(check(buffer), reading.valid() ? 0 : AAA_ATTR_ERR_BAD_BUFFER);
-  if (reading.valid()) read_in_place(buffer);
+  const auto answer = [&buffer](aaa_attr_reader reader) {
+    const flat_rules::Reading reading(buffer.data(), buffer.size(), reader);
+    const aaa_attr_cerrno code = reading.accepted() ? 0 : AAA_ATTR_ERR_BAD_BUFFER;
+    aaa_attr_fault fault;
+    EXPECT_EQ(aaa_attr_buffer_fault(buffer.data(), size_of(buffer), reader, &fault), code);
+    EXPECT_EQ(text_of(fault), text_of(reading.fault())) << "to reader " << reader;
+    return code;
+  };
+  EXPECT_EQ(translate(buffer), answer(AAA_ATTR_READER_HTON));
+  EXPECT_EQ(decode_soundly(buffer), answer(AAA_ATTR_READER_LIST));
+  const aaa_attr_cerrno valid = answer(AAA_ATTR_READER_IN_PLACE);
+  EXPECT_EQ(check(buffer), valid);
+  if (valid == 0) read_in_place(buffer);
 }
 
 TEST(Hostile, Table) {
@@ -102,6 +116,60 @@ TEST(Hostile, Table) {
       EXPECT_EQ(translate(row.buffer, section.direction), row.translate);
       if (row.buffer[0] == AAA_MARSHAL_BUFFER) expect_by_the_rules(row.buffer);
     }
+}
+
+// Each row's rule and its place are named by whoever refuses the buffer, and by nobody else.
+TEST(Hostile, TheRuleIsNamed) {
+  for (const malformed::Section &section : malformed::sections())
+    for (const malformed::Case &row : section.cases) {
+      const std::tuple<char, aaa_attr_reader, aaa_attr_cerrno> readers[] = {
+          {'D', AAA_ATTR_READER_LIST, row.decode},
+          {'V', AAA_ATTR_READER_IN_PLACE, row.check},
+          {'T', section.direction == CDM_ENDIAN_TRAN_HTON ? AAA_ATTR_READER_HTON : AAA_ATTR_READER_NTOH,
+           row.translate}};
+      for (const auto &[who, reader, expected] : readers) {
+        SCOPED_TRACE(std::string(section.title) + ": " + row.what + ", to " + who);
+        aaa_attr_fault fault;
+        EXPECT_EQ(aaa_attr_buffer_fault(row.buffer.data(), size_of(row.buffer), reader, &fault), expected);
+        if (expected != 0) {
+          EXPECT_EQ(text_of(fault), text_of(row.fault_to(who)));
+        } else {
+          EXPECT_EQ(fault.rule, AAA_ATTR_RULE_NONE);
+        }
+      }
+    }
+}
+
+TEST(Hostile, FaultOfNothing) {
+  const Bytes buffer = hex(golden::kNested);
+  aaa_attr_fault fault = {77, 77};
+  EXPECT_EQ(aaa_attr_buffer_fault(buffer.data(), size_of(buffer), AAA_ATTR_READER_LIST, nullptr), AAA_ATTR_ERR_BAD_ARG);
+  const std::tuple<const char *, const std::uint8_t *, std::uint32_t, int> rows[] = {
+      {"no buffer", nullptr, 1, AAA_ATTR_READER_LIST},
+      {"no bytes", buffer.data(), 0, AAA_ATTR_READER_LIST},
+      {"no reader", buffer.data(), size_of(buffer), 0},
+      {"none that is known", buffer.data(), size_of(buffer), 5},
+  };
+  for (const auto &[what, bytes, length, reader] : rows) {
+    EXPECT_EQ(aaa_attr_buffer_fault(bytes, length, static_cast<aaa_attr_reader>(reader), &fault), AAA_ATTR_ERR_BAD_ARG)
+        << what;
+    EXPECT_EQ(text_of(fault), "byte 0: ") << what;
+  }
+}
+
+TEST(Hostile, EveryRuleHasASentenceOfItsOwn) {
+  std::set<std::string> sentences;
+  std::uint32_t rule = AAA_ATTR_RULE_NONE + 1;
+  for (; *aaa_attr_rule_text(rule) != 0; ++rule)
+    EXPECT_TRUE(sentences.insert(aaa_attr_rule_text(rule)).second) << aaa_attr_rule_text(rule);
+  EXPECT_EQ(rule, AAA_ATTR_RULE_TLV_ROOM + 1u);
+  EXPECT_STREQ(aaa_attr_rule_text(AAA_ATTR_RULE_NONE), "");
+  EXPECT_STREQ(aaa_attr_rule_text(~0u), "");
+  // Each has a row that shows it.
+  for (const malformed::Section &section : malformed::sections())
+    for (const malformed::Case &row : section.cases)
+      for (const char who : {'D', 'V', 'T'}) sentences.erase(aaa_attr_rule_text(row.fault_to(who).rule));
+  EXPECT_EQ(testing::PrintToString(sentences), "{}");
 }
 
 TEST(Hostile, CutAtEveryLength) {

@@ -4,6 +4,7 @@
 
 #include <attrmgr/attrmgr.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -17,22 +18,26 @@ struct Record {
   std::size_t sub_list;  // of a live Grouped record: its number among the lists
 };
 
-// Whose rules: those of the decoder and of the check for reading in place, or those of the translation.
-enum class For { kReading, kTranslation };
+// Whose rules: those of the decoder, of the check for reading in place, or of the translation from host form.
+using For = aaa_attr_reader;
 
 class Reading {
  public:
-  // Reads the buffer behind its marker.
-  Reading(const std::uint8_t *bytes, std::size_t size, For purpose = For::kReading)
-      : bytes_(bytes), size_(size), translation_(purpose == For::kTranslation) {
+  // Reads the buffer after its marker.
+  Reading(const std::uint8_t *bytes, std::size_t size, For purpose)
+      : bytes_(bytes),
+        size_(size),
+        translation_(purpose == AAA_ATTR_READER_HTON),
+        in_place_(purpose == AAA_ATTR_READER_IN_PLACE) {
     const std::size_t outer = new_list();
-    read_in_place_ = size > 1;
-    decodable_ = (size == 1 && !translation_) || list(0, outer);
+    accepted_ = (size == 1 && purpose == AAA_ATTR_READER_LIST) || list(0, outer);
   }
 
-  bool decodable() const { return decodable_; }
-  bool valid() const { return decodable_ && read_in_place_; }
-  bool translatable() const { return decodable_; }
+  bool accepted() const { return accepted_; }
+  // The rule that is broken first and where; without one, where the outer list ends.
+  aaa_attr_fault fault() const {
+    return accepted_ ? aaa_attr_fault{AAA_ATTR_RULE_NONE, static_cast<std::uint32_t>(at_)} : fault_;
+  }
 
   // All records in the order in which they lie, and those of each list; list 0 is the outer one.
   const std::vector<Record> &records() const { return records_; }
@@ -58,60 +63,81 @@ class Reading {
     return lists_.size() - 1;
   }
 
+  bool broken(aaa_attr_rule rule, std::size_t at) {
+    fault_ = {static_cast<std::uint32_t>(rule), static_cast<std::uint32_t>(at)};
+    return false;
+  }
+
   bool list(unsigned depth, std::size_t list_number) {
-    if (depth > AAA_ATTR_NESTING_MAX) return false;
     std::uint64_t blocks = 1;
     std::size_t first_header = 0;
     for (std::uint64_t i = 0; i < blocks; ++i) {
-      if (size_ - at_ < 12) return false;
-      const unsigned flags = bytes_[at_ + 3];
-      const bool first = i == 0, head = (flags & kHead) != 0;
+      const std::size_t block = at_;
+      const bool first = i == 0;
+      if (size_ == block && !first) return broken(AAA_ATTR_RULE_COUNTED_BLOCK, block);
+      if (size_ == block) return broken(depth > 0 ? AAA_ATTR_RULE_OWNED_LIST : AAA_ATTR_RULE_FIRST_BLOCK, block);
+      if (size_ - block < 12) return broken(AAA_ATTR_RULE_BLOCK_HEADER, block);
+      if (number(block, 2) != 0xABCD) return broken(AAA_ATTR_RULE_MAGIC, block);
+      const unsigned flags = bytes_[block + 3];
+      const bool head = (flags & kHead) != 0;
       const std::size_t header = (flags & kLayout) == kForeign ? 16 : 24;
-      if (number(at_, 2) != 0xABCD) return false;
-      if (first && (head || !translation_)) blocks = number(at_ + 4, 2);  // else a list of one block
-      if (blocks == 0) return translation_ && depth == 0;                 // there is nothing to translate
+      if (first && !head && !translation_) return broken(AAA_ATTR_RULE_HEAD_FLAG, block + 3);
+      if (first && head) blocks = number(block + 4, 2);  // to the translation, a first block that is none is alone
+      if (blocks == 0 && translation_ && depth == 0) return true;  // there is nothing to translate
+      if (blocks == 0) return broken(AAA_ATTR_RULE_BLOCK_COUNT, block + 4);
+      if (first && depth > AAA_ATTR_NESTING_MAX) return broken(AAA_ATTR_RULE_NESTING, block);
       if (first) first_header = header;
-      if (translation_ && header != first_header) return false;
-      const std::size_t used = number(at_ + 10, 2);
-      if (used < header || used > size_ - at_) return false;
+      if (translation_ && header != first_header) return broken(AAA_ATTR_RULE_ONE_LAYOUT, block + 3);
+      if (in_place_ && header == 16) return broken(AAA_ATTR_RULE_NATIVE_LAYOUT, block + 3);
+      const std::size_t used = number(block + 10, 2);
+      if (used < header) return broken(AAA_ATTR_RULE_USED_MIN, block + 10);
+      if (used > size_ - block) return broken(AAA_ATTR_RULE_USED_MAX, block + 10);
       const bool last = i + 1 == blocks;
-      const bool chained = first == head && (!last || (flags & kLast) != 0);
-      if (!translation_ && (!chained || used - header > (first ? kHeadRoom : kRoom))) return false;
-      if (header == 16 || (number(at_ + 16, 8) == 0) != last) read_in_place_ = false;
+      if (!translation_) {
+        if (used - header > (first ? kHeadRoom : kRoom)) return broken(AAA_ATTR_RULE_BLOCK_ROOM, block + 10);
+        if (!first && head) return broken(AAA_ATTR_RULE_ONE_HEAD, block + 3);
+        if (last && (flags & kLast) == 0) return broken(AAA_ATTR_RULE_LAST_FLAG, block + 3);
+      }
+      if (in_place_ && (number(block + 16, 8) == 0) != last) return broken(AAA_ATTR_RULE_NEXT, block + 16);
 
       std::vector<std::size_t> nested;
-      const std::size_t end = at_ + used;
-      if (!block_records(list_number, at_ + header, end, (flags & kGroups) != 0, &nested)) return false;
-      at_ = end;
+      if (!block_records(list_number, block, header, block + used, &nested)) return false;
+      at_ = block + used;
       for (const std::size_t sub_list : nested)
         if (!list(depth + 1, sub_list)) return false;
     }
     return true;
   }
 
-  static bool has_its_length(const Record &record) {
-    switch (record.format) {
-      case AAA_ATTR_FMT_ULONG:
-      case AAA_ATTR_FMT_ENUM:
-        return record.length == 4;
-      case AAA_ATTR_FMT_BOOLEAN:
-        return record.length == 1;
-      default:
-        return record.format != AAA_ATTR_FMT_GROUPED || record.length == 8;
-    }
+  bool has_its_length(const Record &record) {
+    const bool is_number = record.format == AAA_ATTR_FMT_ULONG || record.format == AAA_ATTR_FMT_ENUM;
+    if (is_number && record.length != 4) return broken(AAA_ATTR_RULE_NUMBER_LENGTH, record.at + 4);
+    if (record.format == AAA_ATTR_FMT_BOOLEAN && record.length != 1)
+      return broken(AAA_ATTR_RULE_BOOLEAN_LENGTH, record.at + 4);
+    if (record.format == AAA_ATTR_FMT_GROUPED && record.length != 8)
+      return broken(AAA_ATTR_RULE_HANDLE_LENGTH, record.at + 4);
+    return true;
   }
 
-  bool keeps_promises(const Record &record, bool holds_grouped) const {
+  bool is_as_readers_rely_on(const Record &record) {
     if (record.removed) return true;
-    if (record.format == AAA_ATTR_FMT_GROUPED) return holds_grouped && record.length == 8;
-    const bool text = record.format == AAA_ATTR_FMT_STRING || record.format == AAA_ATTR_FMT_STRING_ATTR;
-    return !text || (record.length > 0 && bytes_[record.value_at + record.length - 1] == 0);
+    if (record.format == AAA_ATTR_FMT_GROUPED && record.length != 8)
+      return broken(AAA_ATTR_RULE_HANDLE_LENGTH, record.at + 4);
+    if (record.format != AAA_ATTR_FMT_STRING && record.format != AAA_ATTR_FMT_STRING_ATTR) return true;
+    if (record.length == 0) return broken(AAA_ATTR_RULE_TEXT_LENGTH, record.at + 4);
+    const std::size_t end = record.value_at + record.length - 1;
+    return bytes_[end] == 0 || broken(AAA_ATTR_RULE_TEXT_END, end);
   }
 
-  bool block_records(std::size_t list_number, std::size_t at, std::size_t end, bool holds_grouped,
+  bool block_records(std::size_t list_number, std::size_t block, std::size_t header, std::size_t end,
                      std::vector<std::size_t> *nested) {
-    for (std::uint64_t left = number(at_ + 6, 2); left > 0; --left) {
-      if (end - at < 8) return false;
+    const bool holds_grouped = (bytes_[block + 3] & kGroups) != 0;
+    bool has_grouped = false;
+    std::vector<Record> found;
+    std::size_t at = block + header;
+    for (std::uint64_t left = number(block + 6, 2); left > 0; --left) {
+      if (end == at) return broken(AAA_ATTR_RULE_RECORD_COUNT, block + 6);
+      if (end - at < 8) return broken(AAA_ATTR_RULE_RECORD_HEADER, at);
       Record record = {};
       record.at = at;
       record.type = static_cast<std::uint32_t>(number(at, 2));
@@ -120,22 +146,29 @@ class Reading {
       record.removed = (bytes_[at + 2] & 2) != 0;
       record.length = static_cast<std::uint32_t>(number(at + 4, 4));
       const std::size_t value_after = record.has_meta ? 16 : 8;
-      if (end - at < value_after || end - at - value_after < record.length) return false;
+      if (end - at < value_after) return broken(AAA_ATTR_RULE_RECORD_META, at + 2);
+      if (end - at - value_after < record.length) return broken(AAA_ATTR_RULE_RECORD_LENGTH, at + 4);
       record.value_at = at + value_after;
       at = record.value_at + record.length;
-      if (!(translation_ ? has_its_length(record) : keeps_promises(record, holds_grouped))) return false;
-      if (record.format == AAA_ATTR_FMT_GROUPED && !record.removed && holds_grouped)
-        nested->push_back(record.sub_list = new_list());
+      if (!translation_ && !is_as_readers_rely_on(record)) return false;
+      if (record.format == AAA_ATTR_FMT_GROUPED && !record.removed) {
+        has_grouped = true;
+        if (holds_grouped) nested->push_back(record.sub_list = new_list());
+      }
       lists_[list_number].push_back(records_.size());
       records_.push_back(record);
+      found.push_back(record);
     }
-    return at == end;
+    if (at != end) return broken(AAA_ATTR_RULE_RECORD_COUNT, block + 6);
+    if (!translation_) return holds_grouped || !has_grouped || broken(AAA_ATTR_RULE_GROUPED_FLAG, block + 3);
+    // The translation looks at lengths when it knows that the block holds together.
+    return std::all_of(found.begin(), found.end(), [this](const Record &record) { return has_its_length(record); });
   }
 
   const std::uint8_t *bytes_;
   std::size_t size_, at_ = 1;
-  bool translation_;
-  bool decodable_ = false, read_in_place_;
+  bool translation_, in_place_, accepted_;
+  aaa_attr_fault fault_{};
   std::vector<Record> records_;
   std::vector<std::vector<std::size_t>> lists_;
 };

@@ -6,12 +6,29 @@
 
 namespace malformed {
 
+struct Other {
+  char who;
+  aaa_attr_fault fault;
+};
+
 struct Case {
   const char *what;
   Bytes buffer;
   aaa_attr_cerrno decode, check, translate;  // translate: from the form that the section's buffers are in
+  aaa_attr_fault fault;                      // what is broken, to whoever refuses the buffer
   const char *reason;
+  std::vector<Other> others;  // who finds something else first
+
+  aaa_attr_fault fault_to(char who) const {
+    for (const Other &other : others)
+      if (other.who == who) return other.fault;
+    return fault;
+  }
 };
+
+// What is no flat buffer, and what is in network form, is so at once to those who take neither.
+inline constexpr aaa_attr_fault kNoFault = {AAA_ATTR_RULE_NONE, 0}, kOtherMarker = {AAA_ATTR_RULE_MARKER, 0},
+                                kOtherByteOrder = {AAA_ATTR_RULE_MAGIC, 1};
 
 struct Section {
   const char *title;
@@ -20,31 +37,44 @@ struct Section {
 };
 
 // A flat buffer and who refuses it: D the decoder, V the check for reading in place, T the translation.
-inline Case flat_case(const char *what, Bytes buffer, std::string_view refused_by, const char *reason) {
+inline Case flat_case(const char *what, Bytes buffer, std::string_view refused_by, aaa_attr_fault fault,
+                      const char *reason, std::vector<Other> others = {}) {
   const auto answer = [refused_by](char who) {
     return refused_by.find(who) == std::string_view::npos ? aaa_attr_cerrno{0} : AAA_ATTR_ERR_BAD_BUFFER;
   };
-  return {what, std::move(buffer), answer('D'), answer('V'), answer('T'), reason};
+  return {what, std::move(buffer), answer('D'), answer('V'), answer('T'), fault, reason, std::move(others)};
 }
 
-inline Case nested(const char *what, const char *patches, std::string_view refused_by, const char *reason) {
-  return flat_case(what, patched(hex(golden::kNested), patches), refused_by, reason);
+inline Case nested(const char *what, const char *patches, std::string_view refused_by, aaa_attr_fault fault,
+                   const char *reason, std::vector<Other> others = {}) {
+  return flat_case(what, patched(hex(golden::kNested), patches), refused_by, fault, reason, std::move(others));
 }
 
 // Only the decoder reads what is not marked as flat.
-inline Case other_case(const char *what, Bytes buffer, aaa_attr_cerrno decode, const char *reason) {
-  return {what, std::move(buffer), decode, AAA_ATTR_ERR_BAD_ARG, AAA_ATTR_ERR_BAD_ARG, reason};
+inline Case other_case(const char *what, Bytes buffer, aaa_attr_cerrno decode, aaa_attr_fault fault,
+                       const char *reason) {
+  return {what,
+          std::move(buffer),
+          decode,
+          AAA_ATTR_ERR_BAD_ARG,
+          AAA_ATTR_ERR_BAD_ARG,
+          fault,
+          reason,
+          {{'V', kOtherMarker}, {'T', kOtherMarker}}};
 }
 
-inline Case tlv(const char *what, const char *patches, aaa_attr_cerrno decode, const char *reason) {
-  return other_case(what, patched(hex(golden::kTlvNested), patches), decode, reason);
+inline Case tlv(const char *what, const char *patches, aaa_attr_cerrno decode, aaa_attr_fault fault,
+                const char *reason) {
+  return other_case(what, patched(hex(golden::kTlvNested), patches), decode, fault, reason);
 }
 
 // In network form.
-inline Case network(const char *what, const char *patches, std::string_view refused_by, const char *reason) {
+inline Case network(const char *what, const char *patches, std::string_view refused_by, aaa_attr_fault fault,
+                    const char *reason) {
   Bytes buffer = hex(golden::kNested);
   aaa_attrs_buffer_tran_v1(reinterpret_cast<char *>(buffer.data()), size_of(buffer), CDM_ENDIAN_TRAN_HTON);
-  return flat_case(what, patched(buffer, patches), refused_by, reason);
+  return flat_case(what, patched(buffer, patches), refused_by, fault, reason,
+                   {{'D', kOtherByteOrder}, {'V', kOtherByteOrder}});
 }
 
 // Lists nested in lists, `depth` levels below the outer one.
@@ -59,6 +89,10 @@ inline Bytes nested_tlv(unsigned depth) {
   Bytes body = little(4, 4);
   for (unsigned i = 0; i < depth; ++i) body = join({little(body.size() + 12, 4), little(type::kGrouped, 8), body});
   return join({{AAA_MARSHAL_TLV}, body});
+}
+
+inline Bytes tlv_binary(std::size_t length) {
+  return join({{AAA_MARSHAL_TLV}, little(length + 16, 4), little(type::kBinary, 8), little(length, 4), Bytes(length)});
 }
 
 // A list of one record, in a block of either layout; as the first block, or behind an empty one.
@@ -77,53 +111,75 @@ inline Bytes binary(std::size_t length) { return record(type::kBinary, std::stri
 
 inline std::vector<Case> block_cases() {
   return {
-      flat_case("the header is cut short", head_of(hex(golden::kNested), 12), "DVT",
+      flat_case("the header is cut short", head_of(hex(golden::kNested), 12), "DVT", {AAA_ATTR_RULE_BLOCK_HEADER, 1},
                 "11 bytes do not reach the block's length"),
       flat_case("the header of the foreign layout is cut short", patched(head_of(hex(golden::kForeign), 15), "11=0e"),
-                "DVT", "`next` and the records would be read behind the buffer"),
-      nested("no magic, in a nested list", "73=00", "DVT", "nothing else tells that a block begins here"),
-      nested("used bytes below the header", "11=1700", "DVT", "the block behind would begin in this header"),
-      nested("used bytes above what remains", "171=1900", "DVT", "records would be read behind the buffer"),
-      nested("a record more than there are", "7=0400", "DVT", "the next block would be read as a record"),
-      nested("a record less than there are", "7=0200", "DVT",
+                "DVT", {AAA_ATTR_RULE_USED_MIN, 11}, "`next` and the records would be read behind the buffer",
+                {{'V', {AAA_ATTR_RULE_NATIVE_LAYOUT, 4}}}),
+      nested("no magic, in a nested list", "73=00", "DVT", {AAA_ATTR_RULE_MAGIC, 73},
+             "nothing else tells that a block begins here"),
+      nested("used bytes below the header", "11=1700", "DVT", {AAA_ATTR_RULE_USED_MIN, 11},
+             "the block behind would begin in this header"),
+      nested("used bytes above what remains", "171=1900", "DVT", {AAA_ATTR_RULE_USED_MAX, 171},
+             "records would be read behind the buffer"),
+      nested("a record more than there are", "7=0400", "DVT", {AAA_ATTR_RULE_RECORD_COUNT, 7},
+             "the next block would be read as a record"),
+      nested("a record less than there are", "7=0200", "DVT", {AAA_ATTR_RULE_RECORD_COUNT, 7},
              "a reader that goes by the bytes would see what one that counts does not"),
       flat_case("a first block with more records than 512 bytes hold", lone(kForeignHeader, binary(481)), "DV",
-                "the decoder's list begins with a block of 512 bytes, and its header is the longer one"),
-      flat_case("a first block that is full", lone(kForeignHeader, binary(480)), "V", "the foreign layout alone"),
-      flat_case("a chained block with more records than 65,535 bytes hold", chained(kForeignHeader, binary(65504)),
-                "DV", "with a header of 24 bytes, its length would not fit the field"),
-      flat_case("a chained block that is full", chained(kForeignHeader, binary(65503)), "V",
+                {AAA_ATTR_RULE_BLOCK_ROOM, 11},
+                "the decoder's list begins with a block of 512 bytes, and its header is the longer one",
+                {{'V', {AAA_ATTR_RULE_NATIVE_LAYOUT, 4}}}),
+      flat_case("a first block that is full", lone(kForeignHeader, binary(480)), "V", {AAA_ATTR_RULE_NATIVE_LAYOUT, 4},
                 "the foreign layout alone"),
+      flat_case("a chained block with more records than 65,535 bytes hold", chained(kForeignHeader, binary(65504)),
+                "DV", {AAA_ATTR_RULE_BLOCK_ROOM, 27}, "with a header of 24 bytes, its length would not fit the field",
+                {{'V', {AAA_ATTR_RULE_NATIVE_LAYOUT, 4}}}),
+      flat_case("a chained block that is full", chained(kForeignHeader, binary(65503)), "V",
+                {AAA_ATTR_RULE_NATIVE_LAYOUT, 4}, "the foreign layout alone"),
   };
 }
 
 inline std::vector<Case> record_cases() {
   return {
-      nested("a length that passes the block", "65=05", "DVT", "the value would end in the next block"),
+      flat_case("5 bytes where a record should begin", lone(0, Bytes(5)), "DVT", {AAA_ATTR_RULE_RECORD_HEADER, 25},
+                "its length would be read behind the block"),
+      nested("a length that passes the block", "65=05", "DVT", {AAA_ATTR_RULE_RECORD_LENGTH, 65},
+             "the value would end in the next block"),
       nested("a length that wraps to a small record in 32 bits", "29=f4ffffff", "DVT",
-             "a sum of 32 bits would find that it fits"),
-      nested("a meta that is not there, in the last record", "151=01", "DVT",
+             {AAA_ATTR_RULE_RECORD_LENGTH, 29}, "a sum of 32 bits would find that it fits"),
+      nested("a meta that is not there, in the last record", "151=01", "DVT", {AAA_ATTR_RULE_RECORD_META, 151},
              "the value would be taken for the meta, and what follows the block for the value"),
-      nested("a text without its NUL", "44=21", "DV", "readers are promised a NUL behind every text"),
+      nested("a text without its NUL", "44=21", "DV", {AAA_ATTR_RULE_TEXT_END, 44},
+             "readers are promised a NUL behind every text"),
       nested("a text of no bytes", "133=c5000000 137=00 141=1e00000000000000 115=0300", "DV",
-             "there is no room for the NUL"),
-      nested("a Boolean of 4 bytes", "149=1900", "T", "nothing tells which of them is the value"),
-      nested("an Enum of 12 bytes", "25=0300 27=00 29=0c", "T",
+             {AAA_ATTR_RULE_TEXT_LENGTH, 137}, "there is no room for the NUL"),
+      nested("a Boolean of 4 bytes", "149=1900", "T", {AAA_ATTR_RULE_BOOLEAN_LENGTH, 153},
+             "nothing tells which of them is the value"),
+      nested("an Enum of 12 bytes", "25=0300 27=00 29=0c", "T", {AAA_ATTR_RULE_NUMBER_LENGTH, 29},
              "a number is 4 bytes; there are 8 to leave as they are"),
-      nested("a removed Grouped record of 4 bytes", "61=bc01", "T", "removed or not, a handle is 8 bytes"),
+      nested("a removed Grouped record of 4 bytes", "61=bc01", "T", {AAA_ATTR_RULE_HANDLE_LENGTH, 65},
+             "removed or not, a handle is 8 bytes"),
   };
 }
 
 inline std::vector<Case> chain_cases() {
   return {
-      nested("a list of no blocks", "5=0000", "DV", "the block that says so is one; there is nothing to translate"),
-      nested("a nested list of no blocks", "77=0000", "DVT", "its record would own what never came"),
-      nested("a list of more blocks than there are", "5=0300", "DVT", "the third would be read behind the buffer"),
-      nested("a first block that is no head", "4=24", "DV", "only a head says how many blocks there are"),
-      nested("a second head in the chain", "112=27", "DV", "a nested list that nobody owns, or a block of this one?"),
-      nested("a last block without the last flag", "112=24", "DV", "count and flags name different ends"),
-      flat_case("blocks of both layouts", mixed(), "VT",
-                "the translation takes the layout of a list's first block for all"),
+      nested("a list of no blocks", "5=0000", "DV", {AAA_ATTR_RULE_BLOCK_COUNT, 5},
+             "the block that says so is one; there is nothing to translate"),
+      nested("a nested list of no blocks", "77=0000", "DVT", {AAA_ATTR_RULE_BLOCK_COUNT, 77},
+             "its record would own what never came"),
+      nested("a list of more blocks than there are", "5=0300", "DVT", {AAA_ATTR_RULE_COUNTED_BLOCK, 185},
+             "the third would be read behind the buffer", {{'V', {AAA_ATTR_RULE_NEXT, 125}}}),
+      nested("a first block that is no head", "4=24", "DV", {AAA_ATTR_RULE_HEAD_FLAG, 4},
+             "only a head says how many blocks there are"),
+      nested("a second head in the chain", "112=27", "DV", {AAA_ATTR_RULE_ONE_HEAD, 112},
+             "a nested list that nobody owns, or a block of this one?"),
+      nested("a last block without the last flag", "112=24", "DV", {AAA_ATTR_RULE_LAST_FLAG, 112},
+             "count and flags name different ends"),
+      flat_case("blocks of both layouts", mixed(), "VT", {AAA_ATTR_RULE_NATIVE_LAYOUT, 40},
+                "the translation takes the layout of a list's first block for all",
+                {{'T', {AAA_ATTR_RULE_ONE_LAYOUT, 40}}}),
   };
 }
 
@@ -131,83 +187,104 @@ inline std::vector<Case> nesting_cases() {
   const Bytes grouped = record(type::kGrouped, "handle 1"), removed = record(type::kGrouped, "handle 2", 2);
   const Bytes one = block(kHead | kLast, 1, {record(type::kUlong, "abcd")});
   return {
-      nested("a Grouped value of no bytes", "49=00 53=1e00000000000000 7=0400", "DVT", "no room for a handle"),
-      nested("a Grouped record in a block that claims none", "4=21", "DV",
+      nested("a Grouped value of no bytes", "49=00 53=1e00000000000000 7=0400", "DVT",
+             {AAA_ATTR_RULE_HANDLE_LENGTH, 49}, "no room for a handle"),
+      nested("a Grouped record in a block that claims none", "4=21", "DV", {AAA_ATTR_RULE_GROUPED_FLAG, 4},
              "readers that trust the flag take the nested list for the next block"),
-      flat_case("the same, and no list behind the block", lone(0, grouped), "DV",
+      flat_case("the same, and no list behind the block", lone(0, grouped), "DV", {AAA_ATTR_RULE_GROUPED_FLAG, 4},
                 "the flag counts: to the translation the buffer is whole"),
       nested("more live Grouped records than lists", "25=bc01000008000000 41=bc01000008000000 57=bc01000008000000",
-             "DVT", "the blocks that follow would be given to the wrong records"),
-      flat_case("no list behind a Grouped record", lone(kGroups, grouped), "DVT", "it would own what never came"),
+             "DVT", {AAA_ATTR_RULE_HEAD_FLAG, 112}, "the blocks that follow would be given to the wrong records",
+             {{'T', {AAA_ATTR_RULE_OWNED_LIST, 185}}}),
+      flat_case("no list behind a Grouped record", lone(kGroups, grouped), "DVT", {AAA_ATTR_RULE_OWNED_LIST, 41},
+                "it would own what never came"),
       flat_case("a removed Grouped record before a live one",
-                flat({block(kHead | kGroups, 2, {removed, grouped}), one, block(kLast, 1, {binary(1)})}), "",
+                flat({block(kHead | kGroups, 2, {removed, grouped}), one, block(kLast, 1, {binary(1)})}), "", kNoFault,
                 "it nests no list, the live one does"),
-      flat_case("lists nested 129 deep", nested_lists(AAA_ATTR_NESTING_MAX + 1), "DVT",
+      flat_case("lists nested 129 deep", nested_lists(AAA_ATTR_NESTING_MAX + 1), "DVT", {AAA_ATTR_RULE_NESTING, 5161},
                 "what reads level by level would need any amount of stack"),
-      flat_case("lists nested 128 deep", nested_lists(AAA_ATTR_NESTING_MAX), "", "the limit"),
+      flat_case("lists nested 128 deep", nested_lists(AAA_ATTR_NESTING_MAX), "", kNoFault, "the limit"),
   };
 }
 
 inline std::vector<Case> in_place_cases() {
   return {
-      nested("`next` of a block with a successor is 0", "17=0000000000000000", "V",
+      nested("`next` of a block with a successor is 0", "17=0000000000000000", "V", {AAA_ATTR_RULE_NEXT, 17},
              "a cursor would not go on where the decoder does"),
-      nested("`next` of the last block is not 0", "132=01", "V", "a cursor would go on behind the buffer"),
-      flat_case("a block of the foreign layout", hex(golden::kForeign), "V",
+      nested("`next` of the last block is not 0", "132=01", "V", {AAA_ATTR_RULE_NEXT, 125},
+             "a cursor would go on behind the buffer"),
+      flat_case("a block of the foreign layout", hex(golden::kForeign), "V", {AAA_ATTR_RULE_NATIVE_LAYOUT, 4},
                 "a cursor expects the records 8 bytes further on"),
       flat_case("a block of the foreign layout that begins with zeros", lone(kForeignHeader, record(0, "")), "VT",
-                "where `next` would be there are zeros: only the layout gives it away"),
-      flat_case("no block", {AAA_MARSHAL_BUFFER}, "VT",
+                {AAA_ATTR_RULE_NATIVE_LAYOUT, 4},
+                "where `next` would be there are zeros: only the layout gives it away",
+                {{'T', {AAA_ATTR_RULE_NUMBER_LENGTH, 21}}}),
+      flat_case("no block", {AAA_MARSHAL_BUFFER}, "VT", {AAA_ATTR_RULE_FIRST_BLOCK, 1},
                 "an empty list to the decoder, nothing to stand on for a cursor"),
-      nested("free and reserved bytes", "9=ffff 13=ffffffff", "", "nobody reads them"),
-      nested("a type above 622", "149=6f02", "", "a later version's attribute, shown as such"),
-      flat_case("bytes behind the outer list", join({hex(golden::kNested), {0xEE}}), "", "ignored"),
+      nested("free and reserved bytes", "9=ffff 13=ffffffff", "", kNoFault, "nobody reads them"),
+      nested("a type above 622", "149=6f02", "", kNoFault, "a later version's attribute, shown as such"),
+      flat_case("bytes behind the outer list", join({hex(golden::kNested), {0xEE}}), "", kNoFault, "ignored"),
   };
 }
 
 inline std::vector<Case> network_cases() {
   return {
-      network("host form", "73=cdab", "DVT", "nested lists are in the form of the outer one"),
-      network("used bytes below the header", "11=0017", "DVT", "as in host form"),
-      network("used bytes above what remains", "171=0019", "DVT", "as in host form"),
-      network("a record more than there are", "7=0004", "DVT", "as in host form"),
-      network("a length that wraps to a small record in 32 bits", "29=fffffff4", "DVT", "as in host form"),
-      network("a meta that is not there, in the last record", "151=80", "DVT", "as in host form"),
-      network("a list of no blocks", "5=0000", "DV", "as in host form"),
-      network("a Grouped value of no bytes", "49=00000000 53=001e000000000000 7=0004", "DVT", "as in host form"),
-      network("a Boolean of 4 bytes", "149=0019", "DVT", "as in host form"),
-      network("an Enum of 12 bytes", "25=0003 27=00 29=0000000c", "DVT", "as in host form"),
-      network("nothing", "", "DV", "network form is for the translation only"),
+      network("host form", "73=cdab", "DVT", {AAA_ATTR_RULE_MAGIC, 73},
+              "nested lists are in the form of the outer one"),
+      network("used bytes below the header", "11=0017", "DVT", {AAA_ATTR_RULE_USED_MIN, 11}, "as in host form"),
+      network("used bytes above what remains", "171=0019", "DVT", {AAA_ATTR_RULE_USED_MAX, 171}, "as in host form"),
+      network("a record more than there are", "7=0004", "DVT", {AAA_ATTR_RULE_RECORD_COUNT, 7}, "as in host form"),
+      network("a length that wraps to a small record in 32 bits", "29=fffffff4", "DVT",
+              {AAA_ATTR_RULE_RECORD_LENGTH, 29}, "as in host form"),
+      network("a meta that is not there, in the last record", "151=80", "DVT", {AAA_ATTR_RULE_RECORD_META, 151},
+              "as in host form"),
+      network("a list of no blocks", "5=0000", "DV", kOtherByteOrder, "as in host form"),
+      network("a Grouped value of no bytes", "49=00000000 53=001e000000000000 7=0004", "DVT",
+              {AAA_ATTR_RULE_HANDLE_LENGTH, 49}, "as in host form"),
+      network("a Boolean of 4 bytes", "149=0019", "DVT", {AAA_ATTR_RULE_BOOLEAN_LENGTH, 153}, "as in host form"),
+      network("an Enum of 12 bytes", "25=0003 27=00 29=0000000c", "DVT", {AAA_ATTR_RULE_NUMBER_LENGTH, 29},
+              "as in host form"),
+      network("nothing", "", "DV", kOtherByteOrder, "network form is for the translation only"),
   };
 }
 
 inline std::vector<Case> tlv_cases() {
   const Bytes whole = hex(golden::kTlvNested);
   return {
-      tlv("a total that does not count itself", "1=03", AAA_ATTR_ERR_BAD_LENGTH, "less than nothing would remain"),
-      tlv("a total near 2^32", "1=ffffffff", AAA_ATTR_ERR_BAD_LENGTH, "records would be read behind the buffer"),
+      tlv("a total that does not count itself", "1=03", AAA_ATTR_ERR_BAD_LENGTH, {AAA_ATTR_RULE_TLV_TOTAL_MIN, 1},
+          "less than nothing would remain"),
+      tlv("a total near 2^32", "1=ffffffff", AAA_ATTR_ERR_BAD_LENGTH, {AAA_ATTR_RULE_TLV_TOTAL_MAX, 1},
+          "records would be read behind the buffer"),
       tlv("a nested total that passes the outer list", "36=31", AAA_ATTR_ERR_BAD_LENGTH,
-          "its last record would be one of the outer list"),
-      tlv("5 bytes behind the last whole record", "1=48", AAA_ATTR_ERR_BAD_LENGTH, "a record that is cut short"),
+          {AAA_ATTR_RULE_TLV_TOTAL_MAX, 36}, "its last record would be one of the outer list"),
+      tlv("5 bytes behind the last whole record", "1=48", AAA_ATTR_ERR_BAD_LENGTH, {AAA_ATTR_RULE_TLV_RECORD, 68},
+          "a record that is cut short"),
       tlv("a value length that wraps a 32-bit position", "21=f0ffffff", AAA_ATTR_ERR_BAD_LENGTH,
-          "a sum of 32 bits would find that it fits"),
-      tlv("a meta that is cut short", "72=08", AAA_ATTR_ERR_BAD_LENGTH, "the length of the value is missing"),
-      tlv("a meta length other than 8", "9=01", 0, "any but 0 says that a meta of 8 bytes follows"),
-      tlv("type 0", "5=00", AAA_ATTR_ERR_NOT_FOUND, "it names no attribute"),
-      tlv("a type whose low half is known", "5=c5000100", AAA_ATTR_ERR_NOT_FOUND, "a type is 32 bits wide here"),
-      tlv("a Ulong of 3 bytes", "76=03", AAA_ATTR_ERR_BAD_ARG, "what adding refuses"),
+          {AAA_ATTR_RULE_TLV_LENGTH, 21}, "a sum of 32 bits would find that it fits"),
+      tlv("a meta that is cut short", "72=08", AAA_ATTR_ERR_BAD_LENGTH, {AAA_ATTR_RULE_TLV_META, 72},
+          "the length of the value is missing"),
+      tlv("a meta length other than 8", "9=01", 0, kNoFault, "any but 0 says that a meta of 8 bytes follows"),
+      tlv("type 0", "5=00", AAA_ATTR_ERR_NOT_FOUND, {AAA_ATTR_RULE_TLV_TYPE, 5}, "it names no attribute"),
+      tlv("a type whose low half is known", "5=c5000100", AAA_ATTR_ERR_NOT_FOUND, {AAA_ATTR_RULE_TLV_TYPE, 5},
+          "a type is 32 bits wide here"),
+      tlv("a value of no bytes", "76=00 1=4f", AAA_ATTR_ERR_BAD_ARG, {AAA_ATTR_RULE_TLV_EMPTY, 76},
+          "what adding refuses"),
+      other_case("a value of 65,504 bytes", tlv_binary(65504), AAA_ATTR_ERR_BAD_ARG, {AAA_ATTR_RULE_TLV_ROOM, 13},
+                 "what adding refuses"),
+      tlv("a Ulong of 3 bytes", "76=03", AAA_ATTR_ERR_BAD_ARG, {AAA_ATTR_RULE_TLV_FORMAT, 76}, "what adding refuses"),
       other_case("lists nested 129 deep", nested_tlv(AAA_ATTR_NESTING_MAX + 1), AAA_ATTR_ERR_BAD_LENGTH,
-                 "every level takes stack"),
-      other_case("lists nested 128 deep", nested_tlv(AAA_ATTR_NESTING_MAX), 0, "the limit"),
-      other_case("no total", {AAA_MARSHAL_TLV}, AAA_ATTR_ERR_BAD_LENGTH, "an empty list has a total, too"),
-      other_case("bytes behind the outer list", join({whole, {0xEE}}), 0, "ignored"),
+                 {AAA_ATTR_RULE_NESTING, 1549}, "every level takes stack"),
+      other_case("lists nested 128 deep", nested_tlv(AAA_ATTR_NESTING_MAX), 0, kNoFault, "the limit"),
+      other_case("no total", {AAA_MARSHAL_TLV}, AAA_ATTR_ERR_BAD_LENGTH, {AAA_ATTR_RULE_TLV_TOTAL, 1},
+                 "an empty list has a total, too"),
+      other_case("bytes behind the outer list", join({whole, {0xEE}}), 0, kNoFault, "ignored"),
   };
 }
 
 inline std::vector<Case> marker_cases() {
   return {
-      other_case("marker 0", patched(hex(golden::kNested), "0=00"), 0, "flat, to the decoder only"),
-      other_case("marker 3", {3}, AAA_ATTR_ERR_BAD_ARG, "no form that is known"),
+      other_case("marker 0", patched(hex(golden::kNested), "0=00"), 0, kNoFault, "flat, to the decoder only"),
+      other_case("marker 3", {3}, AAA_ATTR_ERR_BAD_ARG, {AAA_ATTR_RULE_MARKER, 0}, "no form that is known"),
   };
 }
 

@@ -1,10 +1,31 @@
 // buffer.hpp: flat buffers read where they lie. flat_view is the one way to do so, and checking a buffer is the one way
-// to a flat_view: bytes that nobody looked at cannot be read.
+// to a flat_view: bytes that nobody looked at cannot be read. fault_of says why a buffer is refused.
 #pragma once
 
+#include <attrmgr/aaa_attr_fault.h>
 #include <attrmgr/cpp/list.hpp>
 
 namespace attrmgr {
+
+// The rule that a buffer breaks, and the byte.
+struct buffer_fault {
+  errc code;             // what the reader answers
+  aaa_attr_rule rule;    // AAA_ATTR_RULE_NONE where there was nothing to read
+  std::uint32_t offset;  // in the buffer, its marker included
+
+  // "a block must begin with the magic number 0xABCD"
+  const char *sentence() const noexcept { return aaa_attr_rule_text(static_cast<std::uint32_t>(rule)); }
+};
+
+// Why the reader refuses the buffer; nothing when it does not. Never throws.
+inline std::optional<buffer_fault> fault_of(std::span<const std::byte> buffer,
+                                            aaa_attr_reader reader = AAA_ATTR_READER_LIST) noexcept {
+  if (buffer.size() != detail::length_of(buffer.size())) return buffer_fault{errc::bad_arg, AAA_ATTR_RULE_NONE, 0};
+  aaa_attr_fault fault{};
+  const aaa_attr_cerrno code = aaa_attr_buffer_fault(buffer.data(), detail::length_of(buffer.size()), reader, &fault);
+  if (code == 0) return std::nullopt;
+  return buffer_fault{static_cast<errc>(code), static_cast<aaa_attr_rule>(fault.rule), fault.offset};
+}
 
 // The outer list of a checked flat buffer, a forward range of attributes. A view: the bytes have to stay, unchanged.
 class flat_view {

@@ -1,41 +1,15 @@
 // Translating flat buffers between host and network form: the structure is checked in whole, then each block is
 // rewritten field by field, read through the view of the one form and written through the view of the other.
-#include <attrmgr/aaa_attr_dict.h>
 #include <attrmgr/aaa_attr_marshal.h>
 
+#include "aaa_attr/marshal/translatable.h"
 #include "aaa_attr/result/error.h"
 #include "aaa_attr/store/network_form.h"
-#include "aaa_attr/store/sub_list.h"
-#include "aaa_attr/walk/flat_reader.h"
 #include "dictionary/type_table.h"
 
 namespace {
 
 using namespace attrmgr;
-
-constexpr std::uint32_t kNumberSize = 4;
-
-bool is_number(std::uint32_t format) { return format == AAA_ATTR_FMT_ULONG || format == AAA_ATTR_FMT_ENUM; }
-
-template <class Form>
-using WholeReader = FlatReader<Form, FlatRules::kWhole>;
-
-template <class Form>
-bool length_holds(BasicRecord<Form> record) {
-  const std::uint32_t format = format_of(record.type());
-  if (is_number(format)) return record.length() == kNumberSize;
-  if (format == AAA_ATTR_FMT_BOOLEAN) return record.length() == 1;
-  if (is_grouped(record)) return record.length() == kHandleSize;
-  return true;
-}
-
-template <class Form>
-bool holds_together(WholeReader<Form> reader) {
-  while (reader.next())
-    for (BasicRecordScan<Form> scan = reader.records(); scan.next();)
-      if (!length_holds(scan.record())) return false;
-  return reader.complete();
-}
 
 template <class From, class To>
 void translate_meta(BasicMeta<From> from, BasicMeta<To> to) {
@@ -67,8 +41,8 @@ void translate_header(BasicBlock<From> from) {
 
 template <class From, class To>
 Error translate(std::byte *list, std::uint64_t length) {
-  WholeReader<From> reader(list, length);
-  if (!holds_together(reader)) return AAA_ATTR_ERR_BAD_BUFFER;
+  if (!TranslatableReader<From>(list, length).read_to_end()) return AAA_ATTR_ERR_BAD_BUFFER;
+  FlatReader<From, FlatRules::kWhole> reader(list, length);
   while (reader.next()) {
     // The scan is a step ahead of the record that it hands out, and the header is rewritten last.
     for (BasicRecordScan<From> scan = reader.records(); scan.next();) translate_record<From, To>(scan.record());

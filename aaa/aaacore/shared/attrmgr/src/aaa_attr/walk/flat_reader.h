@@ -12,12 +12,13 @@
 #include <attrmgr/aaa_attr_types.h>
 
 #include "aaa_attr/store/views.h"
+#include "aaa_attr/walk/fault.h"
 #include "aaa_attr/walk/record_scan.h"
 #include "dictionary/type_table.h"
 
 namespace attrmgr {
 
-// What a reader insists on; each level includes those before it.
+// What a reader insists on; each level includes those before it. aaa_attr_fault.h lists the rules one by one.
 enum class FlatRules {
   kTrusted,    // 24-byte headers; a list begins with a head block; nothing is known of the buffer's end
   kWhole,      // either header; magic, lengths and counts add up
@@ -27,7 +28,7 @@ enum class FlatRules {
 
 inline constexpr std::uint64_t kUnknownLength = ~std::uint64_t{0};
 
-template <class Form, FlatRules kRules>
+template <class Form, FlatRules kRules, class Fault = Unnamed>
 class FlatReader {
  public:
   // Reads num_lists lists that begin at bytes and lie within length bytes.
@@ -49,6 +50,8 @@ class FlatReader {
 
   // After next() gave false: whether it was after the last block.
   bool complete() const { return complete_; }
+  // Otherwise, for Named: the rule that was broken.
+  const Fault &fault() const { return fault_; }
 
   BasicBlock<Form> block() const { return block_; }
   // As long as the block is not rewritten.
@@ -81,11 +84,26 @@ class FlatReader {
     std::uint16_t live_grouped;  // those that own a nested list
   };
 
-  bool check_header();
-  bool check_fit() const;
-  bool check_records();
-  bool enter_list();
-  bool leave_block();
+  static constexpr bool asks(FlatRules level) { return kRules >= level; }
+  bool is_last_of_list() const { return levels_[depth_].blocks_left == 1; }
+
+  // The rules, in the order in which they are looked at. Each is a part of next(): a call would cost more than most.
+  bool begins_here();
+  bool enters_list();
+  bool has_layout();
+  bool has_extent();
+  [[gnu::always_inline]] inline bool agrees_with_list();
+  bool goes_on_as_told();
+  [[gnu::always_inline]] inline bool has_sound_records();
+
+  bool look_for_block();
+  [[gnu::always_inline]] inline void leave_block();
+  static std::uint32_t lacks_nul(BasicRecord<Form> record, const std::byte *end);
+  bool refuse(aaa_attr_rule rule, const std::byte *at);
+  bool refuse_field(aaa_attr_rule rule, std::size_t field) { return refuse(rule, block_.bytes() + field); }
+  bool refuse_records();
+  bool refuse_cut_record(BasicRecord<Form> record);
+  bool holds_value(BasicRecord<Form> record, const std::byte *end);
   Findings look_over() const;
 
   std::byte *at_;
@@ -96,6 +114,7 @@ class FlatReader {
   bool damaged_ = false;  // a trusted block's records pass its end: nothing after it can be found
   unsigned depth_ = 0;    // level 0 stands for what contains the lists to read
   Findings findings_{};
+  [[no_unique_address]] Fault fault_;
   Level levels_[AAA_ATTR_NESTING_MAX + 2];  // written as they are entered
 };
 
