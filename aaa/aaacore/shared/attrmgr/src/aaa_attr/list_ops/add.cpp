@@ -9,10 +9,10 @@ namespace {
 
 using namespace attrmgr;
 
-// Whatever it is, and whatever is wrong with it.
-[[gnu::noinline]] Error add_any(aaa_attr_list_handle list, std::uint32_t type, const void *value, std::uint32_t length,
-                                const aaa_attr_meta *meta, std::uint32_t client_type) {
-  return add_attribute(list, {type, value, length, meta, client_type});
+// Whatever it is, and whatever is wrong with it. Gives the code itself, in a form in which add() can end with the call.
+[[gnu::noinline]] aaa_attr_cerrno add_any(aaa_attr_list_handle list, std::uint32_t type, const void *value,
+                                          std::uint32_t length, const aaa_attr_meta *meta, std::uint32_t client_type) {
+  return add_attribute(list, {type, value, length, meta, client_type}).code;
 }
 
 // Adds an attribute like most: nothing is wrong with it, nothing special about it, and the last block has room. There
@@ -29,8 +29,8 @@ using namespace attrmgr;
   return true;
 }
 
-inline Error add(aaa_attr_list_handle list, std::uint32_t type, const void *value, std::uint32_t length,
-                 const aaa_attr_meta *meta, std::uint32_t client_type) {
+inline aaa_attr_cerrno add(aaa_attr_list_handle list, std::uint32_t type, const void *value, std::uint32_t length,
+                           const aaa_attr_meta *meta, std::uint32_t client_type) {
   if (add_plain(list, {type, value, length, meta, client_type})) [[likely]]
     return 0;
   return add_any(list, type, value, length, meta, client_type);
@@ -38,19 +38,19 @@ inline Error add(aaa_attr_list_handle list, std::uint32_t type, const void *valu
 
 Error add_sub_list(aaa_attr_list_handle parent, aaa_attr_list_handle sub_list, std::uint32_t type,
                    const aaa_attr_meta *meta) {
-  return add_any(parent, type, &sub_list, kHandleSize, meta, 0);
+  return add_attribute(parent, {type, &sub_list, kHandleSize, meta, 0});
 }
 
 }  // namespace
 
 aaa_attr_cerrno aaa_attr_add(aaa_attr_list_handle list, std::uint32_t type, const void *value, std::uint32_t length,
                              const aaa_attr_meta *meta) {
-  return add(list, type, value, length, meta, 0).code;
+  return add(list, type, value, length, meta, 0);
 }
 
 aaa_attr_cerrno aaa_attr_add_v1(aaa_attr_list_handle list, std::uint32_t type, const void *value, std::uint32_t length,
                                 const aaa_attr_meta *meta, std::uint32_t client_type) {
-  return add(list, type, value, length, meta, client_type).code;
+  return add(list, type, value, length, meta, client_type);
 }
 
 aaa_attr_cerrno aaa_attr_add_group_list(aaa_attr_list_handle parent, aaa_attr_list_handle *sub_list, std::uint32_t type,

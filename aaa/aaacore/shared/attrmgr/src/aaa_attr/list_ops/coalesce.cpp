@@ -80,6 +80,7 @@ Error aaa_attr_list_coalesce(aaa_attr_list_handle list) {
   const auto [head, error] = resolve(list);
   if (error) return error;
   if (head.block_count() == 0) return 0;
+  if ((head.own_word() & (kMayNeedPacking | kTailsAreClear)) == kTailsAreClear) return 0;
   if (noted(head, kMayNeedPacking)) {
     pack_all(head);
   } else if (!noted(head, kTailsAreClear)) {
