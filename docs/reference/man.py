@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Writes the manual pages (section 3) of the library from the comments of its public headers.
 
-    man.py VERSION INCLUDE EXAMPLES OUTPUT      folders: the C headers, the guide's programs, where the pages go
+    man.py VERSION OUTPUT EXAMPLES HEADERS...    folders: where the pages go, the guide's programs, the C headers
 
 Every function, and every exported variable that is no table of value names, is an alias of the page of its family.
 """
@@ -63,8 +63,7 @@ class Manual:
             return "\\fB" + word + "\\fP"
 
         plain = escaped(text)
-        return re.sub(r"\*[a-z]\w+|\bAAA_[A-Z0-9_]+\*?|\b[a-z]\w*_\w+\b(?:\.h\b)?|\battrmgr\.hpp\b|\bfree\b(?= releases)",
-                      style, plain)
+        return re.sub(r"\*[a-z]\w+|\bAAA_[A-Z0-9_]+\*?|\b[a-z]\w*_\w+\b(?:\.h\b)?|\battrmgr\.hpp\b", style, plain)
 
     @staticmethod
     def guarded(line):
@@ -119,14 +118,14 @@ def capital(text):
 # ---- The parts of a page ----
 
 
-def head(manual, name, names, brief, version):
+def head(manual, name, names, brief, version, library="libattrmgr"):
     manual.raw('.\\" Written from the comments of the public headers by docs/reference/man.py.')
     manual.raw(f'.TH {name} 3 {date()} "attrmgr {version}" "attrmgr manual"')
     manual.raw(".nh\n.ad l")
     manual.macro("SH", "NAME")
     manual.raw(",\n".join([name] + sorted(names)) + " \\- " + escaped(brief))
     manual.macro("SH", "LIBRARY")
-    manual.raw("AAA attribute lists\n.RI ( libattrmgr ,\\~ \\-lattrmgr )")
+    manual.raw(f"AAA attribute lists\n.RI ( {library} ,\\~ \\-l{library[3:]} )")
 
 
 def wrapped_declaration(function):
@@ -274,9 +273,11 @@ def example(manual, page, examples):
     manual.macro("SH", "EXAMPLES")
     manual.raw("Out of")
     manual.raw(f".IR examples/guide/{name} ,")
-    manual.raw("which is compiled and run by the tests:")
+    code = regions.region(examples / name, region)
+    ends = " must() ends the program where a call fails." if any("must(" in line for line in code) else ""
+    manual.text("which the tests compile and run." + ends)
     manual.macro("PP")
-    manual.code(regions.region(examples / name, region))
+    manual.code(code)
 
 
 def see_also(manual, names):
@@ -300,7 +301,7 @@ def family(page, header, known, version, examples):
     functions = [f for s in sections for f in s.functions()]
     names = [f.name for f in functions] + [i.name for s in sections for i in s.items if i.kind == "variable"]
     manual = Manual(known)
-    head(manual, page.name, names, page.brief, version)
+    head(manual, page.name, names, page.brief, version, page.library)
     synopsis(manual, header, sections)
     manual.macro("SH", "DESCRIPTION")
     # A header of several pages says on each what holds for all; that of the lists says it in attrmgr(3).
@@ -363,6 +364,7 @@ def overview(include, read, known, version, examples):
             if item.name.startswith("AAA_ATTR_ERR_"):
                 manual.definition(f"\\fB{item.name}\\fP", explained(item))
     threads(manual)
+    example(manual, pages.Page("attrmgr", "", "", example="record.c:build"), examples)
     see_also(manual, sorted([page.name for page in pages.PAGES] + ["attrmgr_names", "attrmgr_cpp"]))
     return manual
 
@@ -381,12 +383,14 @@ def in_words(name, path, brief, include_name, known, version, see):
     return manual
 
 
-def main(version, include, examples, output):
-    include, examples, output = pathlib.Path(include), pathlib.Path(examples), pathlib.Path(output)
+def main(version, *folders):
+    output, examples, include, *more = (pathlib.Path(folder) for folder in folders)
     output.mkdir(parents=True, exist_ok=True)
     for old in output.glob("*.3"):
         old.unlink()
     read = headers.read_all(include)
+    for folder in more:
+        read |= headers.read_all(folder)
     known = {f.name for header in read.values() for f in header.functions()}
     overview(include, read, known, version, examples).save(output / "attrmgr.3")
     in_words("attrmgr_names", include / "aaa_attr_names.h", "a constant for every attribute type and value",
@@ -398,7 +402,11 @@ def main(version, include, examples, output):
         manual.save(output / f"{page.name}.3")
         for name in names:
             (output / f"{name}.3").write_text(f".so man3/{page.name}.3\n")
-    undone = known - {path.stem for path in output.glob("*.3")}
+    written = {path.stem for path in output.glob("*.3")}
+    missing = {name for page in pages.PAGES for name in page.see} - written
+    if missing:
+        sys.exit("docs/reference/pages.py leads to pages that there are not: " + " ".join(sorted(missing)))
+    undone = known - written
     if undone:
         sys.exit("No page of docs/reference/pages.py has: " + " ".join(sorted(undone)))
 

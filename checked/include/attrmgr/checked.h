@@ -14,11 +14,12 @@
 AAA_BEGIN_DECLS
 
 /* Writes a report now, to where the report at exit goes: the lists that are in use, and the misuses so far. Writes
-   nothing where there is nothing to tell. Lists that other threads change meanwhile may be shown half changed. Returns
-   the number of lists and misuses told of.
+   nothing where there is nothing to tell. Lists that other threads change meanwhile may be shown half changed.
 
    For programs that are linked with libattrmgr_checked; in one that has it preloaded, dlsym(RTLD_DEFAULT, ...) finds
-   the function. */
+   the function.
+
+   Returns the number of lists and misuses told of. */
 AAA_API uint32_t attrmgr_checked_report(void);
 
 AAA_END_DECLS

@@ -16,8 +16,8 @@
 
 AAA_BEGIN_DECLS
 
-/* Receives one NUL-terminated line, valid during the call only, and the context given to the display. Its result is
-   ignored. */
+/* Receives one NUL-terminated line, valid during the call only, and the context given to the display. The line of an
+   attribute begins with a newline, and has none after it. Its result is ignored. */
 typedef int (*aaa_attr_output_fn)(char *line, uint64_t context);
 
 /* Prints the list and its sub-lists to the standard output. */

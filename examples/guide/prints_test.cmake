@@ -1,0 +1,12 @@
+# Runs PROGRAM, which must end well and print what the file EXPECTED holds; addresses in it are those of another run.
+execute_process(COMMAND ${PROGRAM} OUTPUT_VARIABLE printed RESULT_VARIABLE status)
+file(READ ${EXPECTED} expected)
+foreach(text printed expected)
+  string(REGEX REPLACE "(Attribute [Ll]ist: )[0-9a-fx]+" "\\1..." ${text} "${${text}}")
+endforeach()
+if(NOT status EQUAL 0)
+  message(FATAL_ERROR "${PROGRAM} ends with ${status}")
+endif()
+if(NOT printed STREQUAL expected)
+  message(FATAL_ERROR "${PROGRAM} prints\n${printed}\nand not, as ${EXPECTED} has it,\n${expected}")
+endif()
