@@ -189,8 +189,9 @@ def parse_params(text):
 
 
 def parse_function(code):
-    match = re.fullmatch(r"AAA_API (.*?[ *])(\w+)\((.*)\);", joined(code))
-    declaration = joined(code.replace("AAA_API ", ""))
+    # What compilers are told is of no interest to a reader.
+    declaration = re.sub(r"\b(AAA_MUST_CHECK|AAA_API) | AAA_NOEXCEPT\b", "", joined(code))
+    match = re.fullmatch(r"(.*?[ *])(\w+)\((.*)\);", declaration)
     return Function(match[2], match[1].strip(), parse_params(match[3]), declaration)
 
 
@@ -239,7 +240,7 @@ def read_pieces(path):
         if line.startswith("/*"):
             lines = reader.comment()
             yield ("section" if lines[0].startswith("---- ") else "comment"), lines
-        elif re.match(r"#define (?!ATTRMGR_\w+_H$)|AAA_API |extern AAA_API |typedef |struct ", line):
+        elif re.match(r"#define (?!ATTRMGR_\w+_H$)|AAA_MUST_CHECK |AAA_API |extern AAA_API |typedef |struct ", line):
             yield "code", reader.declaration()
         else:
             reader.at += 1
@@ -271,7 +272,7 @@ def read(path):
         elif kind == "gap":
             pending, joining = None, False
         else:
-            is_function = body.startswith("AAA_API")
+            is_function = body.startswith(("AAA_MUST_CHECK", "AAA_API"))
             if joining and is_function:
                 groups[-1][3].append(body)
             else:

@@ -186,7 +186,7 @@ static void add_charge(aaa_attr_list_handle attributes) {
   const uint64_t octets = octets_of(attributes);
   aaa_attr_list_handle charge = 0;
   if (failed("aaa_attr_add_group_list", aaa_attr_add_group_list(attributes, &charge, types.charge, NULL))) return;
-  aaa_attr_add(charge, types.octets, &octets, sizeof octets, NULL);
+  failed("aaa_attr_add", aaa_attr_add(charge, types.octets, &octets, sizeof octets, NULL));
 }
 
 static void stop_session(const char *name, const char *cause) {

@@ -203,7 +203,7 @@ TEST_F(Replaced, OneListUnderTwoHandlesIsOneList) {
 TEST_F(Replaced, HeadsAreTakenOnBehalfOfTheCaller) {
   List source;
   aaa_attr_list_handle inner = source.group(type::kGrouped);
-  aaa_attr_add_group_list(inner, &inner, type::kGrouped, nullptr);
+  ASSERT_EQ(aaa_attr_add_group_list(inner, &inner, type::kGrouped, nullptr), 0u);
   const Bytes flat = flat_buffer(source), tlv = tlv_buffer(source);
   const std::pair<const char *, std::function<aaa_attr_cerrno(List &)>> makers[] = {
       {"alloc", [](List &made) { return aaa_attr_list_alloc((made = List(0)).out()); }},

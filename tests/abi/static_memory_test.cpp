@@ -75,8 +75,9 @@ namespace {
 struct Lists {
   Lists() {
     aaa_attr_list_handle inner = source;
-    for (int depth = 0; depth < 4; ++depth) aaa_attr_add_group_list(inner, &inner, type::kGrouped, nullptr);
-    aaa_attr_add(inner, type::kString, "inner", 5, nullptr);
+    for (int depth = 0; depth < 4; ++depth)
+      EXPECT_EQ(aaa_attr_add_group_list(inner, &inner, type::kGrouped, nullptr), 0u);
+    EXPECT_EQ(aaa_attr_add(inner, type::kString, "inner", 5, nullptr), 0u);
     for (const char c : {'a', 'b', 'c'}) source.text(type::kClientId, std::string(400, c));
     source.group(type::kOtherGrouped);
     target.text(type::kString, std::string(470, 'd'));
@@ -203,7 +204,7 @@ int times_given_back(std::uint32_t type, std::string_view text) {
     Bytes flat = flat_buffer(list), tlv = tlv_buffer(list);
     secret = text;
     List copy(0);
-    aaa_attr_list_copy(list, copy.out());
+    EXPECT_EQ(aaa_attr_list_copy(list, copy.out()), 0u);
     decode(flat, &decoded);
     decode(tlv, &decoded);
     flat.pop_back();
@@ -211,8 +212,8 @@ int times_given_back(std::uint32_t type, std::string_view text) {
     tlv[1] = static_cast<std::uint8_t>(tlv[1] - 1);
     EXPECT_NE(decode(tlv, &decoded), 0u);
     const std::uint32_t kept[] = {type::kBinary};
-    aaa_attr_filter_on_type(copy.out(), kept, 1);
-    aaa_attr_list_merge_list(list, other.release());
+    EXPECT_EQ(aaa_attr_filter_on_type(copy.out(), kept, 1), 0u);
+    EXPECT_EQ(aaa_attr_list_merge_list(list, other.release()), 0u);
     aaa_attr_remove(list, type);
     std::uint32_t size = 0;
     aaa_attr_list_buffer_coalesce_and_get_len(list, &size);

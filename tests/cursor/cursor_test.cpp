@@ -88,10 +88,10 @@ TEST(CursorReaders, AnswerForTheCurrentRecordOnly) {
       last,  // the end: the cursor still stands on what it stepped over last
   };
   List list;
-  aaa_attr_add_v1(list, type::kIpv4, "\x7f\0\0\1", 4, &kMeta, 23);
-  aaa_attr_add_v1(list, type::kString, "abc", 3, nullptr, 127);
-  aaa_attr_add(list, type::kString, "1234567", 7, nullptr);
-  aaa_attr_add_existing_group_list(list, 0, type::kGrouped, nullptr);
+  ASSERT_EQ(aaa_attr_add_v1(list, type::kIpv4, "\x7f\0\0\1", 4, &kMeta, 23), 0u);
+  ASSERT_EQ(aaa_attr_add_v1(list, type::kString, "abc", 3, nullptr, 127), 0u);
+  ASSERT_EQ(aaa_attr_add(list, type::kString, "1234567", 7, nullptr), 0u);
+  ASSERT_EQ(aaa_attr_add_existing_group_list(list, 0, type::kGrouped, nullptr), 0u);
   list.text(type::kBoolean, "\1");
   aaa_cursor *cursor = nullptr;
   ASSERT_EQ(aaa_cursor_alloc(list, &cursor), 0u);
@@ -131,7 +131,7 @@ TEST(CursorEdits, ChangeTheCurrentRecordOnly) {
 
 TEST(CursorAllocation, OpensListsOnly) {
   List list = list_of("G{T=x U=y} T=12345678");
-  aaa_attr_add_existing_group_list(list, 0, type::kGrouped, nullptr);
+  ASSERT_EQ(aaa_attr_add_existing_group_list(list, 0, type::kGrouped, nullptr), 0u);
   const Block gone(list.group(type::kOtherGrouped));
   gone.put(0, 0xFFFF);
   aaa_cursor *cursor = nullptr;

@@ -97,7 +97,7 @@ TEST(ListText, NestedLists) {
   List list;
   List inner(list.text(197, "bob", &meta).number(4, 0).group(444));
   aaa_attr_remove(list, 4);
-  aaa_attr_add(list, 445, &kNoList, sizeof kNoList, nullptr);
+  ASSERT_EQ(aaa_attr_add(list, 445, &kNoList, sizeof kNoList, nullptr), 0u);
   const aaa_attr_list_handle sub = inner.number(2, 1, &meta).release();
   const auto low = [](std::uint64_t n) { return std::to_string(n & 0xFFFFFFFF) + "(" + in_hex(n & 0xFFFFFFFF) + ")"; };
   const std::string L = in_hex(list), S = in_hex(sub), B = in_hex(kNoList);

@@ -86,7 +86,7 @@ TEST(LongList, IsSearchedAsItIsWalked) {
 TEST(LongList, EndsAtTypeZeroThatWasAdded) {
   List list = long_list(1, 100);
   list.number(0, 1);
-  aaa_attr_list_append_list(list, long_list(2, 50));
+  ASSERT_EQ(aaa_attr_list_append_list(list, long_list(2, 50)), 0u);
   list.number(301, 1);
   EXPECT_EQ(searched(list), walked(list));
   // What is merged in is not found again, and so not replaced by what comes after it.
@@ -100,7 +100,7 @@ TEST(LongList, EndsAtTypeZeroThatWasAdded) {
 TEST(LongList, EndsAtTypeZeroThatCameInABuffer) {
   List list = long_list(1, 100);
   list.number(304, 0x1234);
-  aaa_attr_list_append_list(list, long_list(2, 50));
+  ASSERT_EQ(aaa_attr_list_append_list(list, long_list(2, 50)), 0u);
   list.number(301, 1);
   Bytes buffer = flat_buffer(list);
   const Bytes record = hex("30010000 04000000 34120000");
@@ -123,12 +123,12 @@ TEST(LongList, IsMergedAsOneByOne) {
     const List source = long_list(seed + 100, 80);
     List merged = long_list(seed, 80, kTypes[seed % std::size(kTypes)]);
     List one_by_one(0);
-    aaa_attr_list_copy(merged, one_by_one.out());
+    ASSERT_EQ(aaa_attr_list_copy(merged, one_by_one.out()), 0u);
     ASSERT_EQ(aaa_attr_list_merge_with_replace(merged, source), 0);
     walk(source, [&](aaa_cursor *cursor, std::uint32_t type) {
       std::uint32_t length;
       const void *value = aaa_cursor_get(cursor, &length);
-      aaa_attr_add_or_replace(one_by_one, type, value, length, aaa_cursor_get_meta(cursor));
+      EXPECT_EQ(aaa_attr_add_or_replace(one_by_one, type, value, length, aaa_cursor_get_meta(cursor)), 0u);
     });
     EXPECT_EQ(bytes_of(merged), bytes_of(one_by_one)) << seed;
   }
@@ -149,7 +149,7 @@ List shuffled(const List &list, Random &random) {
   for (std::size_t i = types.size(); i > 1; --i)
     std::swap(types[i - 1], types[random.below(static_cast<std::uint32_t>(i))]);
   List made;
-  for (const std::uint32_t type : types) aaa_attr_list_copy_by_type(list, made, type);
+  for (const std::uint32_t type : types) EXPECT_EQ(aaa_attr_list_copy_by_type(list, made, type), 0u);
   return made;
 }
 

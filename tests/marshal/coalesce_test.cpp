@@ -52,13 +52,13 @@ TEST(Coalesce, ClearsWhatComesAfterTheRecords) {
   EXPECT_TRUE(is_clear(list)) << "whatever the size is asked by";
   List more = list_of("U=* V=y");
   dirty(more);
-  aaa_attr_list_merge_list(list, more.release());
+  ASSERT_EQ(aaa_attr_list_merge_list(list, more.release()), 0u);
   std::uint32_t size = 0;
-  aaa_attr_list_to_buffer_v1(list, nullptr, &size);
+  EXPECT_EQ(aaa_attr_list_to_buffer_v1(list, nullptr, &size), AAA_ATTR_ERR_BAD_FORMAT);
   EXPECT_TRUE(is_clear(list)) << "spliced";
   list.text(type::kString, std::string(600, 'x')).text(type::kString, "y");
   dirty(list);
-  aaa_attr_list_to_buffer_v1(list, nullptr, &size);
+  EXPECT_EQ(aaa_attr_list_to_buffer_v1(list, nullptr, &size), AAA_ATTR_ERR_BAD_FORMAT);
   EXPECT_TRUE(is_clear(list)) << "chained";
 }
 
@@ -91,24 +91,24 @@ TEST(Coalesce, DropsWhateverWasRemoved) {
        [](List &list) {
          aaa_attr_remove(list, type_named('U'));
          List copy(0);
-         aaa_attr_list_copy(list, copy.out());
+         EXPECT_EQ(aaa_attr_list_copy(list, copy.out()), 0u);
          list = std::move(copy);
        }},
       {"a spliced list",
        [](List &list) {
          aaa_attr_remove(list, type_named('U'));
          List first;
-         aaa_attr_list_merge_list(first, list.release());
+         EXPECT_EQ(aaa_attr_list_merge_list(first, list.release()), 0u);
          list = std::move(first);
        }},
   };
   for (const auto &[name, remove] : rows) {
     List list = list_of("T=t U=u V=v");
     std::uint32_t size = 0;
-    aaa_attr_list_to_buffer_v1(list, nullptr, &size);  // nothing to do so far
+    EXPECT_EQ(aaa_attr_list_to_buffer_v1(list, nullptr, &size), AAA_ATTR_ERR_BAD_FORMAT);  // nothing to do so far
     remove(list);
     EXPECT_EQ(aaa_attr_list_attr_count(list), 3u) << name << " marks only";
-    aaa_attr_list_to_buffer_v1(list, nullptr, &size);
+    EXPECT_EQ(aaa_attr_list_to_buffer_v1(list, nullptr, &size), AAA_ATTR_ERR_BAD_FORMAT);
     EXPECT_EQ(aaa_attr_list_attr_count(list), 2u) << name;
     EXPECT_EQ(outline(list), outline_of("T=t V=v")) << name;
   }

@@ -29,7 +29,7 @@ TEST(BufferFormat, Goldens) {
 
   // A TLV buffer has no removed records and no producer client types; a text goes without its NUL.
   List tlv;
-  aaa_attr_add_v1(tlv.number(3, 1), 197, "bob", 3, &kMeta, 5);
+  ASSERT_EQ(aaa_attr_add_v1(tlv.number(3, 1), 197, "bob", 3, &kMeta, 5), 0u);
   List sub_list(tlv.group(444));
   sub_list.number(2, 5).group(445);
   sub_list.release();
@@ -73,7 +73,7 @@ TEST(BufferFormat, CapacityIsNegotiated) {
 
 TEST(BufferFormat, BrokenSubListsAreRefused) {
   List outer;
-  aaa_attr_add(outer.group(444), 445, &kNoList, sizeof kNoList, nullptr);
+  ASSERT_EQ(aaa_attr_add(outer.group(444), 445, &kNoList, sizeof kNoList, nullptr), 0u);
   std::uint32_t size = 99;
   aaa_attr_array_entry *entries = nullptr;
   EXPECT_EQ(aaa_attr_list_buffer_len(outer, &size), AAA_ATTR_ERR_BAD_LIST);

@@ -4,6 +4,8 @@
 #include <attrmgr/attrmgr.h>
 
 #include <cstdint>
+#include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <string>
 #include <string_view>
@@ -30,6 +32,13 @@ inline constexpr std::uint32_t kOtherGrouped = 445;  // Experimental result AVP
 inline constexpr std::uint32_t kUlonglong = 453;     // Input octets
 }  // namespace type
 
+// For what a test prepares and cannot do without: it says where it stopped, and goes no further.
+inline void must(aaa_attr_cerrno code, const char *what) {
+  if (code == 0) return;
+  std::fprintf(stderr, "preparing a test: %s gave %s\n", what, aaa_attr_cerrno_name(code));
+  std::abort();
+}
+
 // A list that is freed with the scope, unless it is released to a new owner.
 class List {
  public:
@@ -46,19 +55,19 @@ class List {
   aaa_attr_list_handle *out() { return &handle_; }
   aaa_attr_list_handle release() { return std::exchange(handle_, 0); }
 
+  // Add what the list takes of it: a row of a table may have a value that its type refuses.
   List &text(std::uint32_t type, std::string_view value, const aaa_attr_meta *meta = nullptr) {
-    aaa_attr_add(handle_, type, value.data(), static_cast<std::uint32_t>(value.size()), meta);
+    (void)aaa_attr_add(handle_, type, value.data(), static_cast<std::uint32_t>(value.size()), meta);
     return *this;
   }
   List &number(std::uint32_t type, std::uint32_t value, const aaa_attr_meta *meta = nullptr) {
-    aaa_attr_add(handle_, type, &value, sizeof value, meta);
+    (void)aaa_attr_add(handle_, type, &value, sizeof value, meta);
     return *this;
   }
-  // Adds an empty sub-list, which this list owns.
+  // Adds an empty sub-list, which this list owns; 0 when that fails.
   aaa_attr_list_handle group(std::uint32_t type, const aaa_attr_meta *meta = nullptr) {
     aaa_attr_list_handle sub_list = 0;
-    aaa_attr_add_group_list(handle_, &sub_list, type, meta);
-    return sub_list;
+    return aaa_attr_add_group_list(handle_, &sub_list, type, meta) == 0 ? sub_list : 0;
   }
 
  private:
@@ -90,13 +99,13 @@ inline Bytes hex(std::string_view digits) {
 // The list as a flat buffer (as it stands), as a TLV buffer; empty on failure.
 inline Bytes flat_buffer(aaa_attr_list_handle list) {
   std::uint32_t size = 0;
-  aaa_attr_list_to_buffer(list, nullptr, &size);
+  (void)aaa_attr_list_to_buffer(list, nullptr, &size);  // asks for the size: 0 where there is no buffer
   Bytes buffer(size);
   return aaa_attr_list_to_buffer(list, buffer.data(), &size) == 0 ? buffer : Bytes();
 }
 inline Bytes tlv_buffer(aaa_attr_list_handle list) {
   std::uint32_t size = 0;
-  aaa_attr_list_tlv_to_buffer(list, nullptr, &size);
+  (void)aaa_attr_list_tlv_to_buffer(list, nullptr, &size);
   Bytes buffer(size);
   return aaa_attr_list_tlv_to_buffer(list, buffer.data(), &size) == 0 ? buffer : Bytes();
 }

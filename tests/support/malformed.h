@@ -72,7 +72,8 @@ inline Case tlv(const char *what, const char *patches, aaa_attr_cerrno decode, a
 inline Case network(const char *what, const char *patches, std::string_view refused_by, aaa_attr_fault fault,
                     const char *reason) {
   Bytes buffer = hex(golden::kNested);
-  aaa_attrs_buffer_tran_v1(reinterpret_cast<char *>(buffer.data()), size_of(buffer), CDM_ENDIAN_TRAN_HTON);
+  char *const bytes = reinterpret_cast<char *>(buffer.data());
+  must(aaa_attrs_buffer_tran_v1(bytes, size_of(buffer), CDM_ENDIAN_TRAN_HTON), "translating a good buffer");
   return flat_case(what, patched(buffer, patches), refused_by, fault, reason,
                    {{'D', kOtherByteOrder}, {'V', kOtherByteOrder}});
 }

@@ -21,7 +21,7 @@ AAA_BEGIN_DECLS
 typedef int (*aaa_attr_output_fn)(char *line, uint64_t context);
 
 /* Prints the list and its sub-lists to the standard output. */
-AAA_API void aaa_attr_list_print(aaa_attr_list_handle list);
+AAA_API void aaa_attr_list_print(aaa_attr_list_handle list) AAA_NOEXCEPT;
 
 /* Hands the list and its sub-lists to the output function, line by line. */
 AAA_API void aaa_attr_list_display(aaa_attr_list_handle list, aaa_attr_output_fn output, uint64_t context);
@@ -33,7 +33,7 @@ AAA_API void aaa_attr_list_display_brief(aaa_attr_list_handle list, aaa_attr_out
    shown attributes leaves the buffer as it was.
    buffer: where to write.
    size: the bytes of buffer. */
-AAA_API void aaa_attr_list_print_to_output_buffer(aaa_attr_list_handle list, char *buffer, int32_t size);
+AAA_API void aaa_attr_list_print_to_output_buffer(aaa_attr_list_handle list, char *buffer, int32_t size) AAA_NOEXCEPT;
 
 /* Hands one line to the output function: number and total length of the attributes, the longest and the shortest.
    ignored: any number. */
@@ -48,7 +48,7 @@ AAA_API void aaa_display_summ_attr_list_fn(aaa_attr_list_handle list, uint32_t i
    length: the characters written.
    AAA_ATTR_ERR_BAD_ARG: size or count 0; bytes, text or length null. */
 AAA_API aaa_attr_cerrno aaa_attr_bin_to_str(const uint8_t *bytes, int32_t count, char *text, uint32_t size,
-                                            uint32_t *length);
+                                            uint32_t *length) AAA_NOEXCEPT;
 
 AAA_END_DECLS
 

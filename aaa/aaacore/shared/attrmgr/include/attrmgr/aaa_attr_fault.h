@@ -88,13 +88,13 @@ typedef struct aaa_attr_fault {
    unknown: then the rule is AAA_ATTR_RULE_NONE.
    Codes of the reader for the buffer, and 0 where it takes it. */
 AAA_API aaa_attr_cerrno aaa_attr_buffer_fault(const void *buffer, uint32_t length, aaa_attr_reader reader,
-                                              aaa_attr_fault *fault);
+                                              aaa_attr_fault *fault) AAA_NOEXCEPT;
 
 /* Returns the rule as a constant sentence, without a full stop: "a block must begin with the magic number 0xABCD". It is
    empty for AAA_ATTR_RULE_NONE and for a number that is no rule.
    rule: AAA_ATTR_RULE_*.
    Owner: the library; the text is constant. */
-AAA_API const char *aaa_attr_rule_text(uint32_t rule);
+AAA_API const char *aaa_attr_rule_text(uint32_t rule) AAA_NOEXCEPT;
 
 AAA_END_DECLS
 

@@ -29,8 +29,9 @@ AAA_BEGIN_DECLS
    size: the bytes of the buffer.
    AAA_ATTR_ERR_BAD_FORMAT: a Grouped attribute whose value is not a handle, or more than 2^32 - 1 bytes.
    Codes of the handles, sub-lists' included. */
-AAA_API aaa_attr_cerrno aaa_attr_list_buffer_len(aaa_attr_list_handle list, uint32_t *size);
-AAA_API aaa_attr_cerrno aaa_attr_list_buffer_coalesce_and_get_len(aaa_attr_list_handle list, uint32_t *size);
+AAA_API aaa_attr_cerrno aaa_attr_list_buffer_len(aaa_attr_list_handle list, uint32_t *size) AAA_NOEXCEPT;
+AAA_API aaa_attr_cerrno aaa_attr_list_buffer_coalesce_and_get_len(aaa_attr_list_handle list,
+                                                                  uint32_t *size) AAA_NOEXCEPT;
 
 /* Writes the list with all its sub-lists as a flat buffer. v1 first drops removed attributes from the list, even where
    it then fails (sub-lists are written as they stand).
@@ -40,8 +41,10 @@ AAA_API aaa_attr_cerrno aaa_attr_list_buffer_coalesce_and_get_len(aaa_attr_list_
    cannot be measured, *size is 0.
    AAA_ATTR_ERR_BAD_ARG: size null.
    Codes of the handle, from v1 only, *size as it was. */
-AAA_API aaa_attr_cerrno aaa_attr_list_to_buffer(aaa_attr_list_handle list, void *buffer, uint32_t *size);
-AAA_API aaa_attr_cerrno aaa_attr_list_to_buffer_v1(aaa_attr_list_handle list, void *buffer, uint32_t *size);
+AAA_MUST_CHECK aaa_attr_cerrno aaa_attr_list_to_buffer(aaa_attr_list_handle list, void *buffer,
+                                                       uint32_t *size) AAA_NOEXCEPT;
+AAA_MUST_CHECK aaa_attr_cerrno aaa_attr_list_to_buffer_v1(aaa_attr_list_handle list, void *buffer,
+                                                          uint32_t *size) AAA_NOEXCEPT;
 
 /* ---- TLV buffers ---- */
 
@@ -49,14 +52,15 @@ AAA_API aaa_attr_cerrno aaa_attr_list_to_buffer_v1(aaa_attr_list_handle list, vo
    size: the bytes of the records in TLV form; the buffer needs 5 more.
    AAA_ATTR_ERR_BAD_FORMAT: the buffer would pass 2^32 - 1 bytes.
    Codes of the handles. */
-AAA_API aaa_attr_cerrno aaa_attr_list_tlv_buffer_len(aaa_attr_list_handle list, uint32_t *size);
+AAA_API aaa_attr_cerrno aaa_attr_list_tlv_buffer_len(aaa_attr_list_handle list, uint32_t *size) AAA_NOEXCEPT;
 
 /* Writes the list as a TLV buffer: live attributes only, without producer client types.
    buffer: where to write; null to ask for the size.
    size: in, the capacity of buffer; out, the bytes written, or the size needed.
    AAA_ATTR_ERR_BAD_FORMAT: buffer null or too small, *size is the size needed; or more than 2^32 - 1 bytes, *size is 0.
    Codes of the handles, *size as it was. */
-AAA_API aaa_attr_cerrno aaa_attr_list_tlv_to_buffer(aaa_attr_list_handle list, void *buffer, uint32_t *size);
+AAA_MUST_CHECK aaa_attr_cerrno aaa_attr_list_tlv_to_buffer(aaa_attr_list_handle list, void *buffer,
+                                                           uint32_t *size) AAA_NOEXCEPT;
 
 /* ---- Reading buffers ---- */
 
@@ -70,7 +74,8 @@ AAA_API aaa_attr_cerrno aaa_attr_list_tlv_to_buffer(aaa_attr_list_handle list, v
    AAA_ATTR_NESTING_MAX. AAA_ATTR_ERR_BAD_LENGTH: the same for a TLV buffer.
    AAA_ATTR_ERR_NOT_FOUND: a TLV record of type 0 or above 622.
    Codes of adding, for TLV records. */
-AAA_API aaa_attr_cerrno aaa_attr_buffer_to_list(const void *buffer, uint32_t length, aaa_attr_list_handle *list);
+AAA_MUST_CHECK aaa_attr_cerrno aaa_attr_buffer_to_list(const void *buffer, uint32_t length,
+                                                       aaa_attr_list_handle *list) AAA_NOEXCEPT;
 
 /* Copies out the first value of the type in a flat buffer, sub-lists and removed attributes included, as it is stored
    (a String with its NUL).
@@ -81,25 +86,25 @@ AAA_API aaa_attr_cerrno aaa_attr_buffer_to_list(const void *buffer, uint32_t len
    AAA_ATTR_ERR_BAD_ARG: null, *size 0, or not a flat buffer.
    AAA_ATTR_ERR_NO_MEMORY: no such type; not a proper first block; value too small, then *size is 0. */
 AAA_API aaa_attr_cerrno aaa_attr_get_from_buffer(const void *buffer, uint32_t type, uint32_t *format, void *value,
-                                                 uint32_t *size);
+                                                 uint32_t *size) AAA_NOEXCEPT;
 
 /* Prints the attributes of a flat buffer, nested lists too, to the standard output. */
-AAA_API void aaa_attr_list_buffer_print(const void *buffer);
+AAA_API void aaa_attr_list_buffer_print(const void *buffer) AAA_NOEXCEPT;
 
 /* Returns 1 when this is a flat buffer whose first block has the 16-byte header of the foreign layout, else 0. */
-AAA_API int aaa_attr_buffer_is_alien(const void *buffer, uint32_t length);
+AAA_API int aaa_attr_buffer_is_alien(const void *buffer, uint32_t length) AAA_NOEXCEPT;
 
 /* Returns 1 when every call that is told no length may be used on the flat buffer, and all of them see the records that
    the decoder sees; else 0.
    code: 0 or the reason, one of these.
    AAA_ATTR_ERR_BAD_ARG: null, length 0, or not marked as a flat buffer. AAA_ATTR_ERR_BAD_BUFFER: what the decoder
    refuses; the foreign layout; `next` is not zero exactly in the last block of each list. */
-AAA_API int is_aaa_attr_buffer_valid(const void *buffer, uint32_t length, aaa_attr_cerrno *code);
+AAA_API int is_aaa_attr_buffer_valid(const void *buffer, uint32_t length, aaa_attr_cerrno *code) AAA_NOEXCEPT;
 
 /* Takes the sender's addresses out of a valid flat buffer, in place, for a buffer that leaves the machine: `next`
    becomes 0 or 1, Grouped values and reserved bytes 0. The buffer is unchanged on failure.
    Codes of is_aaa_attr_buffer_valid. */
-AAA_API aaa_attr_cerrno aaa_attr_buffer_scrub(void *buffer, uint32_t length);
+AAA_MUST_CHECK aaa_attr_cerrno aaa_attr_buffer_scrub(void *buffer, uint32_t length) AAA_NOEXCEPT;
 
 /* ---- Byte order ----
 
@@ -121,8 +126,9 @@ typedef enum cdm_endian_tran_type
    AAA_ATTR_ERR_BAD_ARG: null, an unknown direction, or not marked as a flat buffer (v1: length 0).
    AAA_ATTR_ERR_BAD_BUFFER: the buffer does not hold together in the form that it should be in (v1: within length), or
    the blocks of a list differ in their layout. */
-AAA_API aaa_attr_cerrno aaa_attrs_buffer_tran(char *buffer, cdm_endian_tran_type direction);
-AAA_API aaa_attr_cerrno aaa_attrs_buffer_tran_v1(char *buffer, uint32_t length, cdm_endian_tran_type direction);
+AAA_MUST_CHECK aaa_attr_cerrno aaa_attrs_buffer_tran(char *buffer, cdm_endian_tran_type direction) AAA_NOEXCEPT;
+AAA_MUST_CHECK aaa_attr_cerrno aaa_attrs_buffer_tran_v1(char *buffer, uint32_t length,
+                                                        cdm_endian_tran_type direction) AAA_NOEXCEPT;
 
 /* ---- Gather list ---- */
 
@@ -140,8 +146,8 @@ typedef struct aaa_attr_array_entry {
    AAA_ATTR_ERR_BAD_ARG: array or *array null, or too small; *count is the number needed.
    AAA_ATTR_ERR_NO_MEMORY: no array. AAA_ATTR_ERR_BAD_FORMAT: a Grouped attribute whose value is not a handle.
    Codes of the handles. */
-AAA_API aaa_attr_cerrno aaa_attr_list_to_array(aaa_attr_list_handle list, aaa_attr_array_entry **array,
-                                               uint32_t *count);
+AAA_MUST_CHECK aaa_attr_cerrno aaa_attr_list_to_array(aaa_attr_list_handle list, aaa_attr_array_entry **array,
+                                                      uint32_t *count) AAA_NOEXCEPT;
 
 /* ---- IPv6 prefix values ----
 
@@ -155,19 +161,20 @@ AAA_API aaa_attr_cerrno aaa_attr_list_to_array(aaa_attr_list_handle list, aaa_at
 
 /* Packs an address and a prefix length.
    prefix_length: in bits; its low 8 bits are stored, unchecked. */
-AAA_API void aaa_attr_encode_ipv6_prefix(const uint8_t *address, int32_t prefix_length, uint8_t *value);
+AAA_API void aaa_attr_encode_ipv6_prefix(const uint8_t *address, int32_t prefix_length, uint8_t *value) AAA_NOEXCEPT;
 
 /* Unpacks a prefix value. Bits beyond the prefix length are cleared in the address and, those of the last prefix byte,
    in the value itself.
    prefix_length: in bits; 0 on failure.
    AAA_ATTR_ERR_BAD_ARG: null, or a prefix length above 128. */
-AAA_API aaa_attr_cerrno aaa_attr_decode_ipv6_prefix(uint8_t *value, uint8_t *address, uint8_t *prefix_length);
+AAA_API aaa_attr_cerrno aaa_attr_decode_ipv6_prefix(uint8_t *value, uint8_t *address,
+                                                    uint8_t *prefix_length) AAA_NOEXCEPT;
 
 /* Writes the text form of an address, as ipv6_address_to_string of aaa_platform.h does.
    text: at least AAA_IPV6_TEXT_SIZE bytes.
    Returns text.
    Owner: the caller, as before. */
-AAA_API char *aaa_attr_ipv6_address_to_string(const uint8_t *address, char *text);
+AAA_API char *aaa_attr_ipv6_address_to_string(const uint8_t *address, char *text) AAA_NOEXCEPT;
 
 AAA_END_DECLS
 

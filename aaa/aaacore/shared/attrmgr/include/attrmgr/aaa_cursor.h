@@ -49,65 +49,66 @@ struct aaa_cursor {
    cursor: null when none was to be had; otherwise to be freed even when the handle is refused.
    AAA_ATTR_ERR_NO_MEMORY: no pool or no cursor.
    Codes of the handle. */
-AAA_API aaa_attr_cerrno aaa_cursor_alloc(aaa_attr_list_handle list, aaa_cursor **cursor);
+AAA_API aaa_attr_cerrno aaa_cursor_alloc(aaa_attr_list_handle list, aaa_cursor **cursor) AAA_NOEXCEPT;
 
 /* Takes a cursor that visits only attributes whose meta has this service and protocol. (0, 0) filters nothing; a number
    above 255 matches nothing.
    cursor: as from aaa_cursor_alloc.
    Codes of aaa_cursor_alloc. */
 AAA_API aaa_attr_cerrno aaa_cursor_alloc_filtered(aaa_attr_list_handle list, aaa_cursor **cursor, uint32_t service,
-                                                  uint32_t protocol);
+                                                  uint32_t protocol) AAA_NOEXCEPT;
 
 /* Takes a cursor over the outer list of a flat buffer. It reads the buffer in place and stays inside the used bytes of
    each block, but is told no length: check a buffer of unknown origin with is_aaa_attr_buffer_valid first.
    buffer: the first byte of the buffer, its marker. It must stay where it is.
    cursor: null when none was to be had.
    AAA_ATTR_ERR_BAD_ARG: buffer or cursor null. AAA_ATTR_ERR_NO_MEMORY: no pool or no cursor. */
-AAA_API aaa_attr_cerrno aaa_cursor_alloc_from_buffer(const void *buffer, aaa_cursor **cursor);
+AAA_API aaa_attr_cerrno aaa_cursor_alloc_from_buffer(const void *buffer, aaa_cursor **cursor) AAA_NOEXCEPT;
 
 /* Takes a cursor over the sub-list of the current Grouped attribute.
    sub_cursor: null on every failure.
    AAA_ATTR_ERR_NOT_FOUND: no current attribute. AAA_ATTR_ERR_BAD_ARG: it is not Grouped, or the cursor walks a buffer
    (whose handles mean nothing here). AAA_ATTR_ERR_NO_MEMORY: no cursor.
    Codes of the sub-list's handle. */
-AAA_API aaa_attr_cerrno aaa_cursor_grouped_alloc(const aaa_cursor *cursor, aaa_cursor **sub_cursor);
+AAA_API aaa_attr_cerrno aaa_cursor_grouped_alloc(const aaa_cursor *cursor, aaa_cursor **sub_cursor) AAA_NOEXCEPT;
 
 /* Gives the cursor back to the pool. Null, or no pool, does nothing.
    Always 0. */
-AAA_API aaa_attr_cerrno aaa_cursor_free(aaa_cursor *cursor);
+AAA_API aaa_attr_cerrno aaa_cursor_free(aaa_cursor *cursor) AAA_NOEXCEPT;
 
 /* ---- Moving ---- */
 
 /* Goes to the next attribute.
    Returns its type; 0 at the end. */
-AAA_API uint32_t aaa_cursor_get_next(aaa_cursor *cursor);
+AAA_API uint32_t aaa_cursor_get_next(aaa_cursor *cursor) AAA_NOEXCEPT;
 
 /* Goes to the next attribute of the type.
    type: the type sought; 0 goes to the end.
    Returns 1, or 0 with the cursor at the end; 1 for type 0. */
-AAA_API int aaa_cursor_move_by_type(aaa_cursor *cursor, uint32_t type);
+AAA_API int aaa_cursor_move_by_type(aaa_cursor *cursor, uint32_t type) AAA_NOEXCEPT;
 
 /* Back before the first attribute of the list, the filter kept.
    AAA_ATTR_ERR_BAD_ARG: cursor null. AAA_ATTR_ERR_BAD_LIST: a buffer cursor, which cannot be reset.
    Codes of the handle. */
-AAA_API aaa_attr_cerrno aaa_cursor_reset(aaa_cursor *cursor);
+AAA_API aaa_attr_cerrno aaa_cursor_reset(aaa_cursor *cursor) AAA_NOEXCEPT;
 
 /* ---- Changing ---- */
 
 /* Removes the current attribute, if there is one. A sub-list that it holds is not freed. A Grouped attribute of a
    buffer stays: its nested list would become part of the outer one. */
-AAA_API void aaa_cursor_remove(aaa_cursor *cursor);
+AAA_API void aaa_cursor_remove(aaa_cursor *cursor) AAA_NOEXCEPT;
 
 /* Stamps the current attribute with a producer client type.
    AAA_ATTR_ERR_BAD_ARG: no current attribute, or client_type not 1 to 23. */
-AAA_API aaa_attr_cerrno aaa_cursor_set_producer_client_type(aaa_cursor *cursor, uint32_t client_type);
+AAA_API aaa_attr_cerrno aaa_cursor_set_producer_client_type(aaa_cursor *cursor, uint32_t client_type) AAA_NOEXCEPT;
 
 /* Adds a copy of the current attribute to the list: type, value, meta and producer client type. The handle of a
    sub-list is copied as it is: it would have two owners.
    list: the list to which the copy is added.
    AAA_ATTR_ERR_BAD_ARG: no current attribute, or a Grouped one in a buffer.
    Codes of adding. */
-AAA_API aaa_attr_cerrno aaa_cursor_list_add_attr(aaa_attr_list_handle list, const aaa_cursor *cursor);
+AAA_MUST_CHECK aaa_attr_cerrno aaa_cursor_list_add_attr(aaa_attr_list_handle list,
+                                                        const aaa_cursor *cursor) AAA_NOEXCEPT;
 
 /* ---- Reading the current attribute ----
 
@@ -120,45 +121,46 @@ AAA_API aaa_attr_cerrno aaa_cursor_list_add_attr(aaa_attr_list_handle list, cons
    AAA_ATTR_ERR_BAD_ARG: no current attribute, or a null pointer. */
 
 /* Returns the address of the value; a String has its NUL after it. */
-AAA_API const void *aaa_cursor_get(const aaa_cursor *cursor, uint32_t *length);
+AAA_API const void *aaa_cursor_get(const aaa_cursor *cursor, uint32_t *length) AAA_NOEXCEPT;
 
 /* Returns the text of an attribute of a String type, NUL-terminated; null for other formats.
    length: the length of the text without its NUL. */
-AAA_API const char *aaa_cursor_get_string(const aaa_cursor *cursor, uint32_t *length);
+AAA_API const char *aaa_cursor_get_string(const aaa_cursor *cursor, uint32_t *length) AAA_NOEXCEPT;
 
 /* Reads the value as a number, or as the handle of a sub-list; the format is not looked at.
    sub_list: the handle, which means nothing where it came from a buffer.
    AAA_ATTR_ERR_BAD_FORMAT: the value is not of 4 (8, 8) bytes. */
-AAA_API aaa_attr_cerrno aaa_cursor_get_uint32_t(const aaa_cursor *cursor, uint32_t *value);
-AAA_API aaa_attr_cerrno aaa_cursor_get_uint64_t(const aaa_cursor *cursor, uint64_t *value);
-AAA_API aaa_attr_cerrno aaa_cursor_get_grouped_attr_handle(const aaa_cursor *cursor, aaa_attr_list_handle *sub_list);
+AAA_API aaa_attr_cerrno aaa_cursor_get_uint32_t(const aaa_cursor *cursor, uint32_t *value) AAA_NOEXCEPT;
+AAA_API aaa_attr_cerrno aaa_cursor_get_uint64_t(const aaa_cursor *cursor, uint64_t *value) AAA_NOEXCEPT;
+AAA_API aaa_attr_cerrno aaa_cursor_get_grouped_attr_handle(const aaa_cursor *cursor,
+                                                           aaa_attr_list_handle *sub_list) AAA_NOEXCEPT;
 
 /* Returns the attribute's meta; null when it has none. */
-AAA_API const aaa_attr_meta *aaa_cursor_get_meta(const aaa_cursor *cursor);
+AAA_API const aaa_attr_meta *aaa_cursor_get_meta(const aaa_cursor *cursor) AAA_NOEXCEPT;
 
 /* Returns the meta's tag, or its mandatory bit; 0 without meta. */
-AAA_API uint32_t aaa_cursor_get_tag(const aaa_cursor *cursor);
-AAA_API uint32_t aaa_cursor_mandatory(const aaa_cursor *cursor);
+AAA_API uint32_t aaa_cursor_get_tag(const aaa_cursor *cursor) AAA_NOEXCEPT;
+AAA_API uint32_t aaa_cursor_mandatory(const aaa_cursor *cursor) AAA_NOEXCEPT;
 
 /* Returns the length of the value, the attribute's producer client type, or what the dictionary says of its type:
    format, name, whether it is Grouped, and whether its class shares a bit with the mask.
    mask: class bits, docs/dictionary.md.
    Owner: the library, of the name; constant text. */
-AAA_API uint32_t aaa_cursor_get_length(const aaa_cursor *cursor);
-AAA_API uint32_t aaa_cursor_get_producer_client_type(const aaa_cursor *cursor);
-AAA_API uint32_t aaa_cursor_get_format(const aaa_cursor *cursor);
-AAA_API const char *aaa_cursor_get_name(const aaa_cursor *cursor);
-AAA_API int aaa_cursor_grouped(const aaa_cursor *cursor);
-AAA_API int aaa_cursor_attr_is_class(const aaa_cursor *cursor, uint32_t mask);
+AAA_API uint32_t aaa_cursor_get_length(const aaa_cursor *cursor) AAA_NOEXCEPT;
+AAA_API uint32_t aaa_cursor_get_producer_client_type(const aaa_cursor *cursor) AAA_NOEXCEPT;
+AAA_API uint32_t aaa_cursor_get_format(const aaa_cursor *cursor) AAA_NOEXCEPT;
+AAA_API const char *aaa_cursor_get_name(const aaa_cursor *cursor) AAA_NOEXCEPT;
+AAA_API int aaa_cursor_grouped(const aaa_cursor *cursor) AAA_NOEXCEPT;
+AAA_API int aaa_cursor_attr_is_class(const aaa_cursor *cursor, uint32_t mask) AAA_NOEXCEPT;
 
 /* Tells where the current record lies; for buffer cursors only.
    offset: from the buffer's first byte to the byte after the record's 8-byte header.
    AAA_ATTR_ERR_BAD_ARG: also for a cursor over a list. */
-AAA_API aaa_attr_cerrno aaa_cursor_get_offset_in_buffer(const aaa_cursor *cursor, uint32_t *offset);
+AAA_API aaa_attr_cerrno aaa_cursor_get_offset_in_buffer(const aaa_cursor *cursor, uint32_t *offset) AAA_NOEXCEPT;
 
 /* Returns the current record, unchecked: before the first aaa_cursor_get_next the place where the first record would
    be. */
-AAA_API aaa_attr_record *aaa_cursor_get_current_attr(const aaa_cursor *cursor);
+AAA_API aaa_attr_record *aaa_cursor_get_current_attr(const aaa_cursor *cursor) AAA_NOEXCEPT;
 
 AAA_END_DECLS
 

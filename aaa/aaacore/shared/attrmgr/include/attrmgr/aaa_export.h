@@ -1,5 +1,5 @@
-/* aaa_export.h: how the interface is declared. The only header that knows about
-   visibility, packing and C++ linkage. */
+/* aaa_export.h: how the interface is declared. The only header that knows about visibility, packing, C++ linkage and
+   what compilers are told of a function. */
 #ifndef ATTRMGR_AAA_EXPORT_H
 #define ATTRMGR_AAA_EXPORT_H
 
@@ -9,6 +9,24 @@
 #else
 #define AAA_API
 #define AAA_PACKED
+#endif
+
+/* AAA_API for a function whose result must be looked at: when it fails and nobody notices, an attribute is lost, memory
+   leaks, or bytes go out that are not what they should be. */
+#if (defined(__cplusplus) && __cplusplus >= 201703L) || (defined(__STDC_VERSION__) && __STDC_VERSION__ >= 202311L)
+#define AAA_MUST_CHECK [[nodiscard]] AAA_API
+#elif defined(__GNUC__)
+#define AAA_MUST_CHECK __attribute__((warn_unused_result)) AAA_API
+#else
+#define AAA_MUST_CHECK AAA_API
+#endif
+
+/* After a function that throws nothing. Those that call a client's function do not have it, nor do those that a process
+   may define itself. */
+#if defined(__cplusplus) && __cplusplus >= 201103L
+#define AAA_NOEXCEPT noexcept
+#else
+#define AAA_NOEXCEPT
 #endif
 
 #ifdef __cplusplus

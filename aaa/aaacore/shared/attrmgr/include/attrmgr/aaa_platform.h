@@ -88,7 +88,7 @@ extern AAA_API const uint16_t aaa_attr_chunk_size;
 
 /* Destroys the cursor pool if there is one. Every cursor taken from it is gone; the next allocation of a cursor
    creates a new pool. The caller makes sure that no other thread uses a cursor meanwhile. */
-AAA_API void aaa_base_destroy_chunk_cursor(void);
+AAA_API void aaa_base_destroy_chunk_cursor(void) AAA_NOEXCEPT;
 
 /* ---- Memory and text ---- */
 
@@ -105,7 +105,7 @@ AAA_API void *malloc_pc(size_t size, const void *owner);
    allocation: what malloc_pc returned.
    size: the bytes that it was asked for; aaa_attr_chunk_size for a list's first block.
    Owner: nobody; an address in the code. */
-AAA_API const void *malloc_pc_owner(const void *allocation, size_t size);
+AAA_API const void *malloc_pc_owner(const void *allocation, size_t size) AAA_NOEXCEPT;
 
 #define AAA_IPV6_TEXT_SIZE 46 /* bytes for the longest text of an IPv6 address, its NUL counted */
 

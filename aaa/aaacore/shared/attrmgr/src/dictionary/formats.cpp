@@ -35,7 +35,7 @@ static_assert(std::size(kFormatNames) == AAA_ATTR_FMT_QOS_FILTER_RULE + 1);
 
 }  // namespace
 
-const char *aaa_attr_get_format_string(std::uint32_t format) {
+const char *aaa_attr_get_format_string(std::uint32_t format) noexcept {
   const char *name = format < std::size(kFormatNames) ? kFormatNames[format] : nullptr;
   return name != nullptr ? name : "<unknown>";
 }

@@ -38,11 +38,11 @@ bool hidden_from_display(std::uint32_t type) { return is_li_type(type) && !debug
 
 using namespace attrmgr;
 
-void aaa_attr_set_debug_li(std::uint32_t on) { debug_li.store(on, std::memory_order_relaxed); }
+void aaa_attr_set_debug_li(std::uint32_t on) noexcept { debug_li.store(on, std::memory_order_relaxed); }
 
-int aaa_attr_is_attr_type_li(std::uint32_t type) { return is_li_type(type); }
+int aaa_attr_is_attr_type_li(std::uint32_t type) noexcept { return is_li_type(type); }
 
-int aaa_attr_is_li_attr(const char *text) {
+int aaa_attr_is_li_attr(const char *text) noexcept {
   if (text == nullptr || debug_li_set()) return 0;
   for (const std::uint32_t type : kLiTypes) {
     const std::string_view name = kTypes[type].name;

@@ -9,22 +9,22 @@
 
 using namespace attrmgr;
 
-std::uint32_t aaa_attr_get_format_from_type(std::uint32_t type) { return format_of(type); }
+std::uint32_t aaa_attr_get_format_from_type(std::uint32_t type) noexcept { return format_of(type); }
 
-const char *aaa_attr_get_name_from_type(std::uint32_t type) { return type_name(type); }
+const char *aaa_attr_get_name_from_type(std::uint32_t type) noexcept { return type_name(type); }
 
-std::uint32_t aaa_attr_get_type_from_name(const char *name) {
+std::uint32_t aaa_attr_get_type_from_name(const char *name) noexcept {
   if (name == nullptr) return 0;
   const std::string_view wanted = name;
   return kNameIndex.probe(wanted, [wanted](std::uint32_t type) { return kTypes[type].name == wanted; });
 }
 
-const char *aaa_attr_get_enum_name_from_type(std::uint32_t type, std::uint32_t value) {
+const char *aaa_attr_get_enum_name_from_type(std::uint32_t type, std::uint32_t value) noexcept {
   const TypeRow *row = row_of(type);
   return row != nullptr ? value_name(*row, value) : nullptr;
 }
 
-aaa_attr_cerrno aaa_attr_get_value_from_enum_name(std::uint32_t type, const char *name, std::uint32_t *value) {
+aaa_attr_cerrno aaa_attr_get_value_from_enum_name(std::uint32_t type, const char *name, std::uint32_t *value) noexcept {
   if (name == nullptr || value == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   const TypeRow *row = row_of(type);
   if (row == nullptr) return AAA_ATTR_ERR_NOT_FOUND;
@@ -40,7 +40,7 @@ aaa_attr_cerrno aaa_attr_get_value_from_enum_name(std::uint32_t type, const char
   return AAA_ATTR_ERR_NOT_FOUND;
 }
 
-const char *aaa_attr_get_interface_from_type(std::uint32_t value) {
+const char *aaa_attr_get_interface_from_type(std::uint32_t value) noexcept {
   // The table has more names; the three behind this one are reached through the table only.
   constexpr std::uint32_t kLastInterface = 43;
   return value <= kLastInterface ? name_interface_type[value] : "unknown";

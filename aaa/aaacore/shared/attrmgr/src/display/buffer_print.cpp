@@ -61,6 +61,6 @@ void print_list(const std::byte *first_block) {
 
 }  // namespace
 
-void aaa_attr_list_buffer_print(const void *buffer) {
+void aaa_attr_list_buffer_print(const void *buffer) noexcept {
   if (buffer != nullptr) print_list(static_cast<const std::byte *>(buffer) + kMarkerSize);
 }

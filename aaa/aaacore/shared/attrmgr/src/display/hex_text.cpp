@@ -8,7 +8,7 @@
 using namespace attrmgr;
 
 aaa_attr_cerrno aaa_attr_bin_to_str(const std::uint8_t *bytes, std::int32_t count, char *text, std::uint32_t size,
-                                    std::uint32_t *length) {
+                                    std::uint32_t *length) noexcept {
   if (size == 0 || bytes == nullptr || count == 0 || text == nullptr || length == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   if (count < 0) {
     *length = 0;

@@ -19,7 +19,7 @@ void print_attribute(RecordView record, int number) {
 
 }  // namespace
 
-void aaa_attr_list_print(aaa_attr_list_handle list) {
+void aaa_attr_list_print(aaa_attr_list_handle list) noexcept {
   const auto [head, error] = resolve(list);
   if (error) {
     std::fprintf(stdout, "\nBad List %" PRIx64, list);

@@ -57,7 +57,7 @@ void write_list(aaa_attr_list_handle list, Space &space) {
 
 }  // namespace
 
-void aaa_attr_list_print_to_output_buffer(aaa_attr_list_handle list, char *buffer, std::int32_t size) {
+void aaa_attr_list_print_to_output_buffer(aaa_attr_list_handle list, char *buffer, std::int32_t size) noexcept {
   if (buffer == nullptr || size < 1) return;
   Space space(buffer, static_cast<std::size_t>(size));
   write_list(list, space);

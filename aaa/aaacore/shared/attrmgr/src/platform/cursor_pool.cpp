@@ -50,7 +50,7 @@ void return_cursor(aaa_cursor *cursor) {
 
 }  // namespace attrmgr
 
-void aaa_base_destroy_chunk_cursor() {
+void aaa_base_destroy_chunk_cursor() noexcept {
   chunk_pool *gone = attrmgr::pool().exchange(nullptr);
   if (gone != nullptr) chunk_destroy(gone);
 }

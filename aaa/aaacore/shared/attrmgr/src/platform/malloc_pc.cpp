@@ -15,7 +15,7 @@ ATTRMGR_REPLACEABLE void *malloc_pc(std::size_t size, const void *owner) {
   return allocation;
 }
 
-const void *malloc_pc_owner(const void *allocation, std::size_t size) {
+const void *malloc_pc_owner(const void *allocation, std::size_t size) noexcept {
   if (allocation == nullptr) return nullptr;
   const void *owner;
   std::memcpy(&owner, static_cast<const char *>(allocation) + size, sizeof owner);

@@ -26,7 +26,7 @@ struct Client {
 
 using namespace attrmgr;
 
-aaa_attr_cerrno aaa_attr_client_register(const char *name, const std::uint16_t *ids) {
+aaa_attr_cerrno aaa_attr_client_register(const char *name, const std::uint16_t *ids) noexcept {
   if (name == nullptr || ids == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   if (client.registered) return 0;
   if (handle_table_number == 0) handle_table_number = id_create_new_table(kTableInitial, kTableMaximum, kTableName);

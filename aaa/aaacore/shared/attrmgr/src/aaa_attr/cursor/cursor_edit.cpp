@@ -8,7 +8,7 @@
 
 using namespace attrmgr;
 
-void aaa_cursor_remove(aaa_cursor *cursor) {
+void aaa_cursor_remove(aaa_cursor *cursor) noexcept {
   RecordView record = current_record(cursor);
   if (!record) return;
   if (in_buffer(*cursor)) {
@@ -21,14 +21,14 @@ void aaa_cursor_remove(aaa_cursor *cursor) {
   if (!error) note(head, kMayNeedPacking);
 }
 
-aaa_attr_cerrno aaa_cursor_set_producer_client_type(aaa_cursor *cursor, std::uint32_t client_type) {
+aaa_attr_cerrno aaa_cursor_set_producer_client_type(aaa_cursor *cursor, std::uint32_t client_type) noexcept {
   RecordView record = current_record(cursor);
   if (!record || !is_valid_client_type(client_type)) return AAA_ATTR_ERR_BAD_ARG;
   record.set_client_type(client_type);
   return 0;
 }
 
-aaa_attr_cerrno aaa_cursor_list_add_attr(aaa_attr_list_handle list, const aaa_cursor *cursor) {
+aaa_attr_cerrno aaa_cursor_list_add_attr(aaa_attr_list_handle list, const aaa_cursor *cursor) noexcept {
   const RecordView record = current_record(cursor);
   if (!record) return AAA_ATTR_ERR_BAD_ARG;
   if (in_buffer(*cursor) && is_grouped(record)) return AAA_ATTR_ERR_BAD_ARG;

@@ -35,12 +35,12 @@ Error take_buffer_cursor(const std::byte *first_block, aaa_cursor **out) {
 
 using namespace attrmgr;
 
-aaa_attr_cerrno aaa_cursor_alloc(aaa_attr_list_handle list, aaa_cursor **cursor) {
+aaa_attr_cerrno aaa_cursor_alloc(aaa_attr_list_handle list, aaa_cursor **cursor) noexcept {
   return cursor != nullptr ? take_list_cursor(list, cursor).code : AAA_ATTR_ERR_BAD_ARG;
 }
 
 aaa_attr_cerrno aaa_cursor_alloc_filtered(aaa_attr_list_handle list, aaa_cursor **cursor, std::uint32_t service,
-                                          std::uint32_t protocol) {
+                                          std::uint32_t protocol) noexcept {
   if (cursor == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   if (const Error error = take_list_cursor(list, cursor)) return error.code;
   (*cursor)->filter_service = service;
@@ -48,12 +48,12 @@ aaa_attr_cerrno aaa_cursor_alloc_filtered(aaa_attr_list_handle list, aaa_cursor 
   return 0;
 }
 
-aaa_attr_cerrno aaa_cursor_alloc_from_buffer(const void *buffer, aaa_cursor **cursor) {
+aaa_attr_cerrno aaa_cursor_alloc_from_buffer(const void *buffer, aaa_cursor **cursor) noexcept {
   if (buffer == nullptr || cursor == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   return take_buffer_cursor(static_cast<const std::byte *>(buffer) + kMarkerSize, cursor).code;
 }
 
-aaa_attr_cerrno aaa_cursor_grouped_alloc(const aaa_cursor *cursor, aaa_cursor **sub_cursor) {
+aaa_attr_cerrno aaa_cursor_grouped_alloc(const aaa_cursor *cursor, aaa_cursor **sub_cursor) noexcept {
   if (sub_cursor == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   *sub_cursor = nullptr;
   const RecordView record = current_record(cursor);
@@ -64,7 +64,7 @@ aaa_attr_cerrno aaa_cursor_grouped_alloc(const aaa_cursor *cursor, aaa_cursor **
   return taken.error().code;
 }
 
-aaa_attr_cerrno aaa_cursor_reset(aaa_cursor *cursor) {
+aaa_attr_cerrno aaa_cursor_reset(aaa_cursor *cursor) noexcept {
   if (cursor == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   // The handle is a buffer's address then, and the buffer's bytes are not to be taken for a list's.
   if (in_buffer(*cursor)) return AAA_ATTR_ERR_BAD_LIST;
@@ -75,7 +75,7 @@ aaa_attr_cerrno aaa_cursor_reset(aaa_cursor *cursor) {
   return 0;
 }
 
-aaa_attr_cerrno aaa_cursor_free(aaa_cursor *cursor) {
+aaa_attr_cerrno aaa_cursor_free(aaa_cursor *cursor) noexcept {
   return_cursor(cursor);
   return 0;
 }

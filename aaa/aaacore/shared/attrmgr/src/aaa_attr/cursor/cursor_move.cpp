@@ -14,9 +14,9 @@ std::uint32_t next_type(aaa_cursor *cursor) {
 
 }  // namespace
 
-std::uint32_t aaa_cursor_get_next(aaa_cursor *cursor) { return cursor != nullptr ? next_type(cursor) : 0; }
+std::uint32_t aaa_cursor_get_next(aaa_cursor *cursor) noexcept { return cursor != nullptr ? next_type(cursor) : 0; }
 
-int aaa_cursor_move_by_type(aaa_cursor *cursor, std::uint32_t type) {
+int aaa_cursor_move_by_type(aaa_cursor *cursor, std::uint32_t type) noexcept {
   if (cursor == nullptr) return 0;
   std::uint32_t reached;
   do {

@@ -44,17 +44,17 @@ Error add_sub_list(aaa_attr_list_handle parent, aaa_attr_list_handle sub_list, s
 }  // namespace
 
 aaa_attr_cerrno aaa_attr_add(aaa_attr_list_handle list, std::uint32_t type, const void *value, std::uint32_t length,
-                             const aaa_attr_meta *meta) {
+                             const aaa_attr_meta *meta) noexcept {
   return add(list, type, value, length, meta, 0);
 }
 
 aaa_attr_cerrno aaa_attr_add_v1(aaa_attr_list_handle list, std::uint32_t type, const void *value, std::uint32_t length,
-                                const aaa_attr_meta *meta, std::uint32_t client_type) {
+                                const aaa_attr_meta *meta, std::uint32_t client_type) noexcept {
   return add(list, type, value, length, meta, client_type);
 }
 
 aaa_attr_cerrno aaa_attr_add_group_list(aaa_attr_list_handle parent, aaa_attr_list_handle *sub_list, std::uint32_t type,
-                                        const aaa_attr_meta *meta) {
+                                        const aaa_attr_meta *meta) noexcept {
   if (sub_list == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   *sub_list = 0;
   List made;
@@ -68,6 +68,6 @@ aaa_attr_cerrno aaa_attr_add_group_list(aaa_attr_list_handle parent, aaa_attr_li
 }
 
 aaa_attr_cerrno aaa_attr_add_existing_group_list(aaa_attr_list_handle parent, aaa_attr_list_handle sub_list,
-                                                 std::uint32_t type, const aaa_attr_meta *meta) {
+                                                 std::uint32_t type, const aaa_attr_meta *meta) noexcept {
   return add_sub_list(parent, sub_list, type, meta).code;
 }

@@ -118,16 +118,17 @@ Error add_or_replace(ListEnd &list, NewAttribute attribute, OnOtherMeta on_other
 using namespace attrmgr;
 
 aaa_attr_cerrno aaa_attr_add_or_replace(aaa_attr_list_handle list, std::uint32_t type, const void *value,
-                                        std::uint32_t length, const aaa_attr_meta *meta) {
+                                        std::uint32_t length, const aaa_attr_meta *meta) noexcept {
   return add_or_replace(list, {type, value, length, meta, 0}, OnOtherMeta::kSupersede).code;
 }
 
 aaa_attr_cerrno aaa_attr_add_or_replace_v1(aaa_attr_list_handle list, std::uint32_t type, const void *value,
-                                           std::uint32_t length, const aaa_attr_meta *meta) {
+                                           std::uint32_t length, const aaa_attr_meta *meta) noexcept {
   return add_or_replace(list, {type, value, length, meta, 0}, OnOtherMeta::kAddAlongside).code;
 }
 
 aaa_attr_cerrno aaa_attr_add_or_replace_v2(aaa_attr_list_handle list, std::uint32_t type, const void *value,
-                                           std::uint32_t length, const aaa_attr_meta *meta, std::uint32_t client_type) {
+                                           std::uint32_t length, const aaa_attr_meta *meta,
+                                           std::uint32_t client_type) noexcept {
   return add_or_replace(list, {type, value, length, meta, client_type}, OnOtherMeta::kSupersede).code;
 }

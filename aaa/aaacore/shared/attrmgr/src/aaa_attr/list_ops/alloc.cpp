@@ -5,7 +5,7 @@
 
 using namespace attrmgr;
 
-aaa_attr_cerrno aaa_attr_list_alloc(aaa_attr_list_handle *list) {
+aaa_attr_cerrno aaa_attr_list_alloc(aaa_attr_list_handle *list) noexcept {
   if (list == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   List made;
   const Error error = create_list(ATTRMGR_CALLER, &made);

@@ -21,10 +21,10 @@ Error stamp(aaa_attr_list_handle list, std::uint32_t client_type, bool keep_vali
 
 }  // namespace
 
-aaa_attr_cerrno aaa_attr_list_set_producer_client_type(aaa_attr_list_handle list, std::uint32_t client_type) {
+aaa_attr_cerrno aaa_attr_list_set_producer_client_type(aaa_attr_list_handle list, std::uint32_t client_type) noexcept {
   return stamp(list, client_type, false).code;
 }
 
-aaa_attr_cerrno aaa_attr_list_init_producer_client_type(aaa_attr_list_handle list, std::uint32_t client_type) {
+aaa_attr_cerrno aaa_attr_list_init_producer_client_type(aaa_attr_list_handle list, std::uint32_t client_type) noexcept {
   return stamp(list, client_type, true).code;
 }

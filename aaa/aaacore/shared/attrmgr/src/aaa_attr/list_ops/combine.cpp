@@ -130,29 +130,30 @@ Error remove_replaced(aaa_attr_list_handle destination, aaa_attr_list_handle sou
 
 }  // namespace
 
-aaa_attr_cerrno aaa_attr_list_append_list(aaa_attr_list_handle destination, aaa_attr_list_handle source) {
+aaa_attr_cerrno aaa_attr_list_append_list(aaa_attr_list_handle destination, aaa_attr_list_handle source) noexcept {
   return combine(destination, source, {Write::kAppend, ClientType::kKeep}, ATTRMGR_CALLER).code;
 }
 
-aaa_attr_cerrno aaa_attr_list_merge_with_replace(aaa_attr_list_handle destination, aaa_attr_list_handle source) {
+aaa_attr_cerrno aaa_attr_list_merge_with_replace(aaa_attr_list_handle destination,
+                                                 aaa_attr_list_handle source) noexcept {
   return combine(destination, source, {Write::kReplace, ClientType::kKeep}, ATTRMGR_CALLER).code;
 }
 
 aaa_attr_cerrno aaa_attr_list_copy_by_type(aaa_attr_list_handle source, aaa_attr_list_handle destination,
-                                           std::uint32_t type) {
+                                           std::uint32_t type) noexcept {
   return combine(destination, source, {Write::kAppend, ClientType::kDrop, type}, ATTRMGR_CALLER).code;
 }
 
-aaa_attr_cerrno aaa_attr_list_merge_double_dip(aaa_attr_list_handle destination, aaa_attr_list_handle source) {
+aaa_attr_cerrno aaa_attr_list_merge_double_dip(aaa_attr_list_handle destination, aaa_attr_list_handle source) noexcept {
   return combine(destination, source, {Write::kDoubleDip, ClientType::kDrop}, ATTRMGR_CALLER).code;
 }
 
-aaa_attr_cerrno aaa_attr_list_replace_and_add(aaa_attr_list_handle destination, aaa_attr_list_handle source) {
+aaa_attr_cerrno aaa_attr_list_replace_and_add(aaa_attr_list_handle destination, aaa_attr_list_handle source) noexcept {
   if (const Error error = remove_replaced(destination, source)) return error.code;
   return combine(destination, source, {Write::kAppend, ClientType::kDrop}, ATTRMGR_CALLER).code;
 }
 
-aaa_attr_cerrno aaa_attr_list_replace_and_add_v1(aaa_attr_list_handle *list1, aaa_attr_list_handle *list2) {
+aaa_attr_cerrno aaa_attr_list_replace_and_add_v1(aaa_attr_list_handle *list1, aaa_attr_list_handle *list2) noexcept {
   if (list1 == nullptr || list2 == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   if (const Error error = remove_replaced(*list1, *list2)) return error.code;
   const Rules append_all{Write::kAppend, ClientType::kKeep};

@@ -13,8 +13,8 @@ void write(std::uint8_t *discriminator, std::uint8_t service, std::uint8_t proto
 
 }  // namespace
 
-void aaa_attr_discrim_pack(std::uint8_t *discriminator, std::uint8_t service, std::uint8_t protocol) {
+void aaa_attr_discrim_pack(std::uint8_t *discriminator, std::uint8_t service, std::uint8_t protocol) noexcept {
   write(discriminator, service, protocol);
 }
 
-void aaa_attr_discrim_init(std::uint8_t *discriminator) { write(discriminator, 0, 0); }
+void aaa_attr_discrim_init(std::uint8_t *discriminator) noexcept { write(discriminator, 0, 0); }

@@ -279,7 +279,7 @@ bool nested_equal(aaa_attr_list_handle handle1, aaa_attr_list_handle handle2, Wi
 
 using namespace attrmgr;
 
-int aaa_attr_list_eq(aaa_attr_list_handle handle1, aaa_attr_list_handle handle2) {
+int aaa_attr_list_eq(aaa_attr_list_handle handle1, aaa_attr_list_handle handle2) noexcept {
   if (handle1 == handle2) return 1;
   const BlockView list1 = resolve_whole(handle1).head;
   const BlockView list2 = resolve_whole(handle2).head;

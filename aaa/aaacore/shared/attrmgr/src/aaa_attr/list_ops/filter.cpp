@@ -52,7 +52,8 @@ void give_up_sub_lists(BlockView from) {
 
 }  // namespace
 
-aaa_attr_cerrno aaa_attr_filter_on_type(aaa_attr_list_handle *list, const std::uint32_t *types, std::uint32_t count) {
+aaa_attr_cerrno aaa_attr_filter_on_type(aaa_attr_list_handle *list, const std::uint32_t *types,
+                                        std::uint32_t count) noexcept {
   const auto num_types = static_cast<std::uint8_t>(count);
   if (list == nullptr || (types == nullptr && num_types != 0)) return AAA_ATTR_ERR_BAD_ARG;
   const auto [head, refused] = resolve(*list);

@@ -38,12 +38,13 @@ Error get_number(aaa_attr_list_handle list, std::uint32_t type, T *value) {
 
 }  // namespace
 
-int aaa_attr_is_present(aaa_attr_list_handle list, std::uint32_t type) {
+int aaa_attr_is_present(aaa_attr_list_handle list, std::uint32_t type) noexcept {
   RecordView found;
   return !find(list, type, 0, &found);
 }
 
-aaa_attr_cerrno aaa_attr_find_attr_type_number(aaa_attr_list_handle list, std::uint32_t type, std::uint16_t *count) {
+aaa_attr_cerrno aaa_attr_find_attr_type_number(aaa_attr_list_handle list, std::uint32_t type,
+                                               std::uint16_t *count) noexcept {
   if (count == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   const auto [head, error] = resolve(list);
   if (error) return error.code;
@@ -53,19 +54,20 @@ aaa_attr_cerrno aaa_attr_find_attr_type_number(aaa_attr_list_handle list, std::u
   return 0;
 }
 
-aaa_attr_cerrno aaa_attr_get(aaa_attr_list_handle list, std::uint32_t type, const void **value, std::uint32_t *length) {
+aaa_attr_cerrno aaa_attr_get(aaa_attr_list_handle list, std::uint32_t type, const void **value,
+                             std::uint32_t *length) noexcept {
   if (value == nullptr || length == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   return get(list, type, 0, value, length).code;
 }
 
 aaa_attr_cerrno aaa_attr_get_nth(aaa_attr_list_handle list, std::uint32_t type, const void **value,
-                                 std::uint32_t *length, std::uint16_t n) {
+                                 std::uint32_t *length, std::uint16_t n) noexcept {
   if (value == nullptr || length == nullptr) return AAA_ATTR_ERR_NOT_FOUND;
   return get(list, type, n, value, length).code;
 }
 
 aaa_attr_cerrno aaa_attr_get_string(aaa_attr_list_handle list, std::uint32_t type, const char **text,
-                                    std::uint32_t *length) {
+                                    std::uint32_t *length) noexcept {
   if (format_of(type) != AAA_ATTR_FMT_STRING || text == nullptr || length == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   const void *value;
   const Error error = get(list, type, 0, &value, length);
@@ -73,10 +75,10 @@ aaa_attr_cerrno aaa_attr_get_string(aaa_attr_list_handle list, std::uint32_t typ
   return error.code;
 }
 
-aaa_attr_cerrno aaa_attr_get_uint32_t(aaa_attr_list_handle list, std::uint32_t type, std::uint32_t *value) {
+aaa_attr_cerrno aaa_attr_get_uint32_t(aaa_attr_list_handle list, std::uint32_t type, std::uint32_t *value) noexcept {
   return get_number(list, type, value).code;
 }
 
-aaa_attr_cerrno aaa_attr_get_uint64_t(aaa_attr_list_handle list, std::uint32_t type, std::uint64_t *value) {
+aaa_attr_cerrno aaa_attr_get_uint64_t(aaa_attr_list_handle list, std::uint32_t type, std::uint64_t *value) noexcept {
   return get_number(list, type, value).code;
 }

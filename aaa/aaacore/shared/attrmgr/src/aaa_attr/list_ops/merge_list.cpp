@@ -8,7 +8,7 @@
 
 using namespace attrmgr;
 
-aaa_attr_cerrno aaa_attr_list_merge_list(aaa_attr_list_handle destination, aaa_attr_list_handle source) {
+aaa_attr_cerrno aaa_attr_list_merge_list(aaa_attr_list_handle destination, aaa_attr_list_handle source) noexcept {
   auto [to, to_error] = resolve(destination);
   if (to_error) return to_error.code;
   auto [from, from_error] = resolve(source);

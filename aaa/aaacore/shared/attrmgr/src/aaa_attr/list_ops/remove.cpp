@@ -17,7 +17,7 @@ void attrmgr::remove_with_sub_list(BlockView head, RecordView record) {
   remove_record(head, record);
 }
 
-aaa_attr_cerrno aaa_attr_remove(aaa_attr_list_handle list, std::uint32_t type) {
+aaa_attr_cerrno aaa_attr_remove(aaa_attr_list_handle list, std::uint32_t type) noexcept {
   const auto [head, error] = resolve(list);
   if (error) return error.code;
   for (const RecordView record : RecordsOfType(head, type)) remove_with_sub_list(head, record);
@@ -25,7 +25,7 @@ aaa_attr_cerrno aaa_attr_remove(aaa_attr_list_handle list, std::uint32_t type) {
 }
 
 aaa_attr_cerrno aaa_attr_remove_on_match(aaa_attr_list_handle list, std::uint32_t type, const void *value,
-                                         std::uint32_t length) {
+                                         std::uint32_t length) noexcept {
   if (value == nullptr && length != 0) return AAA_ATTR_ERR_BAD_ARG;
   const auto [head, error] = resolve(list);
   if (error) return error.code;

@@ -109,18 +109,18 @@ Error remove_types_of(aaa_attr_list_handle list, aaa_attr_list_handle types_from
 
 using namespace attrmgr;
 
-aaa_attr_cerrno aaa_attr_list_remove_list(aaa_attr_list_handle list1, aaa_attr_list_handle list2) {
+aaa_attr_cerrno aaa_attr_list_remove_list(aaa_attr_list_handle list1, aaa_attr_list_handle list2) noexcept {
   return remove_types_of(list1, list2).code;
 }
 
-aaa_attr_cerrno aaa_attr_list_remove_list_on_match(aaa_attr_list_handle list1, aaa_attr_list_handle list2) {
+aaa_attr_cerrno aaa_attr_list_remove_list_on_match(aaa_attr_list_handle list1, aaa_attr_list_handle list2) noexcept {
   Pair pair;
   if (const Error error = open_pair_with_types(list1, list2, &pair)) return error.code;
   remove_equal(pair);
   return 0;
 }
 
-aaa_attr_cerrno aaa_attr_list_remove_common_attrs(aaa_attr_list_handle list1, aaa_attr_list_handle list2) {
+aaa_attr_cerrno aaa_attr_list_remove_common_attrs(aaa_attr_list_handle list1, aaa_attr_list_handle list2) noexcept {
   Pair pair;
   if (const Error error = open_pair(list1, list2, &pair)) return error.code;
   remove_common(pair);

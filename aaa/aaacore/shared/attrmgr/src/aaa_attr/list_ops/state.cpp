@@ -7,13 +7,13 @@
 
 using namespace attrmgr;
 
-int is_aaa_attr_list_valid(aaa_attr_list_handle list, aaa_attr_cerrno *code) {
+int is_aaa_attr_list_valid(aaa_attr_list_handle list, aaa_attr_cerrno *code) noexcept {
   if (code == nullptr) return 0;
   *code = resolve_whole(list).error.code;
   return *code == 0;
 }
 
-aaa_attr_cerrno is_aaa_attr_list_empty(aaa_attr_list_handle list, int *empty) {
+aaa_attr_cerrno is_aaa_attr_list_empty(aaa_attr_list_handle list, int *empty) noexcept {
   if (empty == nullptr || resolve_whole(list).error) return AAA_ATTR_ERR_BAD_LIST;
   PooledCursor cursor(list);
   if (cursor.error()) return cursor.error().code;
@@ -21,7 +21,7 @@ aaa_attr_cerrno is_aaa_attr_list_empty(aaa_attr_list_handle list, int *empty) {
   return 0;
 }
 
-std::uint32_t aaa_attr_list_attr_count(aaa_attr_list_handle list) {
+std::uint32_t aaa_attr_list_attr_count(aaa_attr_list_handle list) noexcept {
   const auto [head, error] = resolve(list);
   return error ? 0 : count_records(head);
 }

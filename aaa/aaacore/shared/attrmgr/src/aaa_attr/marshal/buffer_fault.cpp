@@ -50,7 +50,7 @@ bool takes_marker(aaa_attr_reader reader, int marker) {
 Answer read_as(aaa_attr_reader reader, const std::byte *buffer, std::uint32_t length) {
   const int marker = std::to_integer<int>(buffer[0]);
   if (!takes_marker(reader, marker)) return {AAA_ATTR_ERR_BAD_ARG, {AAA_ATTR_RULE_MARKER, buffer}};
-  const Body body = {buffer + 1, std::uint64_t{length} - 1};
+  const Body body = {buffer + kMarkerSize, std::uint64_t{length} - kMarkerSize};
   switch (reader) {
     case AAA_ATTR_READER_LIST:
       return read_list(marker, body);
@@ -67,7 +67,7 @@ Answer read_as(aaa_attr_reader reader, const std::byte *buffer, std::uint32_t le
 }  // namespace
 
 aaa_attr_cerrno aaa_attr_buffer_fault(const void *buffer, std::uint32_t length, aaa_attr_reader reader,
-                                      aaa_attr_fault *fault) {
+                                      aaa_attr_fault *fault) noexcept {
   if (fault == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   *fault = {AAA_ATTR_RULE_NONE, 0};
   if (buffer == nullptr || length == 0) return AAA_ATTR_ERR_BAD_ARG;

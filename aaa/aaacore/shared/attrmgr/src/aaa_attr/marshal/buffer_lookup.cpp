@@ -26,7 +26,7 @@ RecordView find_in_buffer(const std::byte *bytes, std::uint32_t type) {
 }  // namespace
 
 aaa_attr_cerrno aaa_attr_get_from_buffer(const void *buffer, std::uint32_t type, std::uint32_t *format, void *value,
-                                         std::uint32_t *size) {
+                                         std::uint32_t *size) noexcept {
   const auto *bytes = static_cast<const std::byte *>(buffer);
   if (bytes == nullptr || format == nullptr || value == nullptr || size == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   if (*size == 0 || bytes[0] != std::byte{AAA_MARSHAL_BUFFER}) return AAA_ATTR_ERR_BAD_ARG;

@@ -28,20 +28,20 @@ void scrub_block(BlockView block) {
 
 }  // namespace
 
-int is_aaa_attr_buffer_valid(const void *buffer, std::uint32_t length, aaa_attr_cerrno *code) {
+int is_aaa_attr_buffer_valid(const void *buffer, std::uint32_t length, aaa_attr_cerrno *code) noexcept {
   if (code == nullptr) return 0;
   *code = check_buffer(buffer, length).code;
   return *code == 0;
 }
 
-aaa_attr_cerrno aaa_attr_buffer_scrub(void *buffer, std::uint32_t length) {
+aaa_attr_cerrno aaa_attr_buffer_scrub(void *buffer, std::uint32_t length) noexcept {
   if (const Error error = check_buffer(buffer, length)) return error.code;
   ValidatingReader reader(static_cast<std::byte *>(buffer) + 1, length - 1);
   while (reader.next()) scrub_block(reader.block());
   return 0;
 }
 
-int aaa_attr_buffer_is_alien(const void *buffer, std::uint32_t length) {
+int aaa_attr_buffer_is_alien(const void *buffer, std::uint32_t length) noexcept {
   const auto *bytes = static_cast<const std::byte *>(buffer);
   if (bytes == nullptr || length < 1 + kHeaderSize || bytes[0] != std::byte{AAA_MARSHAL_BUFFER}) return 0;
   return BlockView(const_cast<std::byte *>(bytes + 1)).foreign();

@@ -62,10 +62,10 @@ Error translate_buffer(char *buffer, std::uint64_t length, cdm_endian_tran_type 
 
 }  // namespace
 
-aaa_attr_cerrno aaa_attrs_buffer_tran(char *buffer, cdm_endian_tran_type direction) {
+aaa_attr_cerrno aaa_attrs_buffer_tran(char *buffer, cdm_endian_tran_type direction) noexcept {
   return translate_buffer(buffer, kUnknownLength, direction).code;
 }
 
-aaa_attr_cerrno aaa_attrs_buffer_tran_v1(char *buffer, std::uint32_t length, cdm_endian_tran_type direction) {
+aaa_attr_cerrno aaa_attrs_buffer_tran_v1(char *buffer, std::uint32_t length, cdm_endian_tran_type direction) noexcept {
   return translate_buffer(buffer, length, direction).code;
 }

@@ -24,7 +24,7 @@ Error decode(const std::byte *buffer, std::uint32_t length, const List &list, co
 
 }  // namespace
 
-aaa_attr_cerrno aaa_attr_buffer_to_list(const void *buffer, std::uint32_t length, aaa_attr_list_handle *list) {
+aaa_attr_cerrno aaa_attr_buffer_to_list(const void *buffer, std::uint32_t length, aaa_attr_list_handle *list) noexcept {
   if (buffer == nullptr || length == 0 || list == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   const void *owner = ATTRMGR_CALLER;
   List made;

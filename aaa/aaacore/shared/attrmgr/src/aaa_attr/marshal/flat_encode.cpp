@@ -87,21 +87,21 @@ Error encode(aaa_attr_list_handle list, void *buffer, std::uint32_t *size) {
 
 }  // namespace
 
-aaa_attr_cerrno aaa_attr_list_buffer_len(aaa_attr_list_handle list, std::uint32_t *size) {
+aaa_attr_cerrno aaa_attr_list_buffer_len(aaa_attr_list_handle list, std::uint32_t *size) noexcept {
   return size != nullptr ? measure(list, size).code : AAA_ATTR_ERR_BAD_ARG;
 }
 
-aaa_attr_cerrno aaa_attr_list_buffer_coalesce_and_get_len(aaa_attr_list_handle list, std::uint32_t *size) {
+aaa_attr_cerrno aaa_attr_list_buffer_coalesce_and_get_len(aaa_attr_list_handle list, std::uint32_t *size) noexcept {
   if (size == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   if (const Error error = aaa_attr_list_coalesce(list)) return error.code;
   return measure(list, size).code;
 }
 
-aaa_attr_cerrno aaa_attr_list_to_buffer(aaa_attr_list_handle list, void *buffer, std::uint32_t *size) {
+aaa_attr_cerrno aaa_attr_list_to_buffer(aaa_attr_list_handle list, void *buffer, std::uint32_t *size) noexcept {
   return encode(list, buffer, size).code;
 }
 
-aaa_attr_cerrno aaa_attr_list_to_buffer_v1(aaa_attr_list_handle list, void *buffer, std::uint32_t *size) {
+aaa_attr_cerrno aaa_attr_list_to_buffer_v1(aaa_attr_list_handle list, void *buffer, std::uint32_t *size) noexcept {
   if (const Error error = aaa_attr_list_coalesce(list)) {
     std::fputs("Coalesce on attribute list failed\n", stderr);
     return error.code;

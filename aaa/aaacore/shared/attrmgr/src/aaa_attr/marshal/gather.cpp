@@ -41,7 +41,8 @@ Error fill(aaa_attr_list_handle list, aaa_attr_array_entry *entries, std::uint32
 
 }  // namespace
 
-aaa_attr_cerrno aaa_attr_list_to_array(aaa_attr_list_handle list, aaa_attr_array_entry **array, std::uint32_t *count) {
+aaa_attr_cerrno aaa_attr_list_to_array(aaa_attr_list_handle list, aaa_attr_array_entry **array,
+                                       std::uint32_t *count) noexcept {
   if (count == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   std::uint32_t needed;
   if (const Error error = count_entries(list, &needed)) return error.code;

@@ -33,17 +33,19 @@ Error decode_ipv6_prefix(std::uint8_t *value, std::uint8_t *address, std::uint8_
 
 using namespace attrmgr;
 
-void aaa_attr_encode_ipv6_prefix(const std::uint8_t *address, std::int32_t prefix_length, std::uint8_t *value) {
+void aaa_attr_encode_ipv6_prefix(const std::uint8_t *address, std::int32_t prefix_length,
+                                 std::uint8_t *value) noexcept {
   if (address == nullptr || value == nullptr) return;
   value[0] = 0;
   value[kLengthAt] = static_cast<std::uint8_t>(prefix_length & 0xFF);
   std::memcpy(value + kPrefixAt, address, AAA_IPV6_ADDRESS_SIZE);
 }
 
-aaa_attr_cerrno aaa_attr_decode_ipv6_prefix(std::uint8_t *value, std::uint8_t *address, std::uint8_t *prefix_length) {
+aaa_attr_cerrno aaa_attr_decode_ipv6_prefix(std::uint8_t *value, std::uint8_t *address,
+                                            std::uint8_t *prefix_length) noexcept {
   return decode_ipv6_prefix(value, address, prefix_length).code;
 }
 
-char *aaa_attr_ipv6_address_to_string(const std::uint8_t *address, char *text) {
+char *aaa_attr_ipv6_address_to_string(const std::uint8_t *address, char *text) noexcept {
   return ipv6_address_to_string(address, text);
 }

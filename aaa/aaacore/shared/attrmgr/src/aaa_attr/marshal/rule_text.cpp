@@ -11,7 +11,7 @@ static_assert(attrmgr::kBlockSize - attrmgr::kHeaderSize == 488 &&
 #define TEXT_OF(number) #number
 #define VALUE_OF(number) TEXT_OF(number)
 
-const char *aaa_attr_rule_text(std::uint32_t rule) {
+const char *aaa_attr_rule_text(std::uint32_t rule) noexcept {
   switch (static_cast<aaa_attr_rule>(rule)) {
     case AAA_ATTR_RULE_NONE:
       break;

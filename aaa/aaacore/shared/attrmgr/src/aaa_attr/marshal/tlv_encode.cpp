@@ -113,10 +113,10 @@ Error encode(aaa_attr_list_handle list, void *buffer, std::uint32_t *size) {
 
 }  // namespace
 
-aaa_attr_cerrno aaa_attr_list_tlv_buffer_len(aaa_attr_list_handle list, std::uint32_t *size) {
+aaa_attr_cerrno aaa_attr_list_tlv_buffer_len(aaa_attr_list_handle list, std::uint32_t *size) noexcept {
   return size != nullptr ? measure(list, size).code : AAA_ATTR_ERR_BAD_ARG;
 }
 
-aaa_attr_cerrno aaa_attr_list_tlv_to_buffer(aaa_attr_list_handle list, void *buffer, std::uint32_t *size) {
+aaa_attr_cerrno aaa_attr_list_tlv_to_buffer(aaa_attr_list_handle list, void *buffer, std::uint32_t *size) noexcept {
   return size != nullptr ? encode(list, buffer, size).code : AAA_ATTR_ERR_BAD_ARG;
 }

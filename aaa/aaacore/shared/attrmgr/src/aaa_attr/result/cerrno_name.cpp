@@ -1,6 +1,6 @@
 #include <attrmgr/aaa_attr.h>
 
-const char *aaa_attr_cerrno_name(aaa_attr_cerrno code) {
+const char *aaa_attr_cerrno_name(aaa_attr_cerrno code) noexcept {
   switch (code) {
 #define NAME_OF(code) \
   case code:          \
