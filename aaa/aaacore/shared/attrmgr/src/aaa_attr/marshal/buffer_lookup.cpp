@@ -30,7 +30,7 @@ aaa_attr_cerrno aaa_attr_get_from_buffer(const void *buffer, std::uint32_t type,
   const auto *bytes = static_cast<const std::byte *>(buffer);
   if (bytes == nullptr || format == nullptr || value == nullptr || size == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   if (*size == 0 || bytes[0] != std::byte{AAA_MARSHAL_BUFFER}) return AAA_ATTR_ERR_BAD_ARG;
-  const RecordView found = find_in_buffer(bytes + 1, type);
+  const RecordView found = find_in_buffer(bytes + kMarkerSize, type);
   if (!found) return AAA_ATTR_ERR_NO_MEMORY;
   if (*size < found.length()) {
     *size = 0;

@@ -36,13 +36,13 @@ int is_aaa_attr_buffer_valid(const void *buffer, std::uint32_t length, aaa_attr_
 
 aaa_attr_cerrno aaa_attr_buffer_scrub(void *buffer, std::uint32_t length) noexcept {
   if (const Error error = check_buffer(buffer, length)) return error.code;
-  ValidatingReader reader(static_cast<std::byte *>(buffer) + 1, length - 1);
+  ValidatingReader reader(static_cast<std::byte *>(buffer) + kMarkerSize, length - kMarkerSize);
   while (reader.next()) scrub_block(reader.block());
   return 0;
 }
 
 int aaa_attr_buffer_is_alien(const void *buffer, std::uint32_t length) noexcept {
   const auto *bytes = static_cast<const std::byte *>(buffer);
-  if (bytes == nullptr || length < 1 + kHeaderSize || bytes[0] != std::byte{AAA_MARSHAL_BUFFER}) return 0;
-  return BlockView(const_cast<std::byte *>(bytes + 1)).foreign();
+  if (bytes == nullptr || length < kMarkerSize + kHeaderSize || bytes[0] != std::byte{AAA_MARSHAL_BUFFER}) return 0;
+  return BlockView(const_cast<std::byte *>(bytes + kMarkerSize)).foreign();
 }

@@ -55,8 +55,10 @@ Error translate_buffer(char *buffer, std::uint64_t length, cdm_endian_tran_type 
   if (buffer == nullptr || length == 0) return AAA_ATTR_ERR_BAD_ARG;
   auto *bytes = reinterpret_cast<std::byte *>(buffer);
   if (bytes[0] != std::byte{AAA_MARSHAL_BUFFER}) return AAA_ATTR_ERR_BAD_ARG;
-  if (direction == CDM_ENDIAN_TRAN_HTON) return translate<HostForm, NetworkForm>(bytes + 1, length - 1);
-  if (direction == CDM_ENDIAN_TRAN_NTOH) return translate<NetworkForm, HostForm>(bytes + 1, length - 1);
+  if (direction == CDM_ENDIAN_TRAN_HTON)
+    return translate<HostForm, NetworkForm>(bytes + kMarkerSize, length - kMarkerSize);
+  if (direction == CDM_ENDIAN_TRAN_NTOH)
+    return translate<NetworkForm, HostForm>(bytes + kMarkerSize, length - kMarkerSize);
   return AAA_ATTR_ERR_BAD_ARG;
 }
 

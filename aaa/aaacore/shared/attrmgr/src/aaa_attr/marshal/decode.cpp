@@ -11,12 +11,14 @@ namespace {
 using namespace attrmgr;
 
 Error decode(const std::byte *buffer, std::uint32_t length, const List &list, const void *owner) {
+  const std::byte *const content = buffer + kMarkerSize;
+  const std::uint32_t content_length = length - kMarkerSize;
   switch (std::to_integer<int>(buffer[0])) {
     case 0:
     case AAA_MARSHAL_BUFFER:
-      return aaa_attr_buffer_blocks_to_list(buffer + 1, length - 1, list, owner);
+      return aaa_attr_buffer_blocks_to_list(content, content_length, list, owner);
     case AAA_MARSHAL_TLV:
-      return aaa_attr_tlv_buffer_to_list(buffer + 1, length - 1, list.head, owner);
+      return aaa_attr_tlv_buffer_to_list(content, content_length, list.head, owner);
     default:
       return AAA_ATTR_ERR_BAD_ARG;
   }

@@ -6,6 +6,7 @@
 #include <attrmgr/aaa_attr_marshal.h>
 
 #include "aaa_attr/list_ops/coalesce.h"
+#include "aaa_attr/marshal/byte_writer.h"
 #include "aaa_attr/marshal/flat_order.h"
 #include "aaa_attr/store/unwritten.h"
 
@@ -48,18 +49,17 @@ class FlatBlocks {
 // end.
 Error write(aaa_attr_list_handle list, const FlatBlocks &blocks, std::byte *buffer) {
   buffer[0] = std::byte{AAA_MARSHAL_BUFFER};
-  std::byte *to = buffer + kMarkerSize;
-  std::byte *const end = buffer + blocks.size();
-  auto copy_used = [&to, end](BlockView block) -> Error {
+  ByteWriter writer(buffer + kMarkerSize, blocks.size() - kMarkerSize);
+  auto copy_used = [&writer](BlockView block) -> Error {
     const std::size_t used = block.used();
-    if (used > static_cast<std::size_t>(end - to)) return AAA_ATTR_ERR_BAD_FORMAT;
+    std::byte *const to = writer.take(used);
+    if (to == nullptr) return AAA_ATTR_ERR_BAD_FORMAT;
     std::memcpy(to, block.bytes(), used);
-    BlockView(to).set_own_word(0);
-    to += used;
+    BlockView(to).set_own_word(0);  // what this process remembers of the list
     return 0;
   };
   if (const Error error = blocks.revisit(list, copy_used)) return error;
-  return to == end ? 0 : AAA_ATTR_ERR_BAD_FORMAT;
+  return writer.left() == 0 ? 0 : AAA_ATTR_ERR_BAD_FORMAT;
 }
 
 Error measure(aaa_attr_list_handle list, std::uint32_t *size) {

@@ -4,6 +4,7 @@
 
 #include <attrmgr/aaa_attr_marshal.h>
 
+#include "aaa_attr/marshal/byte_writer.h"
 #include "aaa_attr/marshal/tlv_format.h"
 #include "aaa_attr/store/attribute.h"
 #include "aaa_attr/store/handle_check.h"
@@ -14,7 +15,7 @@ namespace {
 
 using namespace attrmgr;
 
-constexpr std::uint32_t kBufferOverhead = kTlvMarkerSize + kTlvTotalSize;
+constexpr std::uint32_t kBufferOverhead = kMarkerSize + kTlvTotalSize;
 constexpr std::uint64_t kRecordsMax = std::numeric_limits<std::uint32_t>::max() - kBufferOverhead;
 
 // Adds the size of the list's records to the total.
@@ -41,50 +42,29 @@ Error measure(aaa_attr_list_handle list, std::uint32_t *size) {
   return 0;
 }
 
-// Writes within the space it was given; what does not fit is refused.
-class Writer {
- public:
-  Writer(std::byte *at, std::uint64_t room) : at_(at), room_(room) {}
+Error write_body(aaa_attr_list_handle list, ByteWriter &writer);
 
-  bool put(const void *bytes, std::uint64_t size) {
-    std::byte *to = reserve(size);
-    if (to != nullptr) std::memcpy(to, bytes, static_cast<std::size_t>(size));
-    return to != nullptr;
-  }
-  bool put(std::uint32_t number) { return put(&number, sizeof number); }
-
-  // Space to be filled in later; null when there is none.
-  std::byte *reserve(std::uint64_t size) {
-    if (size > room_) return nullptr;
-    std::byte *reserved = at_;
-    at_ += size;
-    room_ -= size;
-    return reserved;
-  }
-
-  std::byte *at() const { return at_; }
-
- private:
-  std::byte *at_;
-  std::uint64_t room_;
-};
-
-Error write_body(aaa_attr_list_handle list, Writer &writer);
-
-Error write_record(RecordView record, Writer &writer) {
+Error write_record(RecordView record, ByteWriter &writer) {
   const std::uint32_t meta_length = record.has_meta() ? kMetaSize : 0;
-  if (!writer.put(record.type()) || !writer.put(meta_length)) return AAA_ATTR_ERR_BAD_FORMAT;
+  std::byte *const header = writer.take(kTlvRecordHeaderSize);
+  if (header == nullptr) return AAA_ATTR_ERR_BAD_FORMAT;
+  store(header + kTlvTypeAt, std::uint32_t{record.type()});
+  store(header + kTlvMetaLengthAt, meta_length);
   if (!writer.put(record.meta_bytes(), meta_length)) return AAA_ATTR_ERR_BAD_FORMAT;
   if (is_grouped(record)) return write_body(sub_list_of(record), writer);
   const std::uint32_t length = reported_length(record);
-  return writer.put(length) && writer.put(record.value(), length) ? 0 : AAA_ATTR_ERR_BAD_FORMAT;
+  std::byte *const content = writer.take(std::uint64_t{kTlvLengthSize} + length);
+  if (content == nullptr) return AAA_ATTR_ERR_BAD_FORMAT;
+  store(content, length);
+  std::memcpy(content + kTlvLengthSize, record.value(), length);
+  return 0;
 }
 
 // Total and records.
-Error write_body(aaa_attr_list_handle list, Writer &writer) {
+Error write_body(aaa_attr_list_handle list, ByteWriter &writer) {
   const auto [head, refused] = resolve(list);
   if (refused) return refused;
-  std::byte *const total = writer.reserve(kTlvTotalSize);
+  std::byte *const total = writer.take(kTlvTotalSize);
   if (total == nullptr) return AAA_ATTR_ERR_BAD_FORMAT;
   for (const RecordView record : Attributes(head))
     if (const Error error = write_record(record, writer)) return error;
@@ -103,9 +83,9 @@ Error encode(aaa_attr_list_handle list, void *buffer, std::uint32_t *size) {
     *size = needed;
     return AAA_ATTR_ERR_BAD_FORMAT;
   }
-  Writer writer(static_cast<std::byte *>(buffer), needed);
-  const std::byte marker{AAA_MARSHAL_TLV};
-  writer.put(&marker, sizeof marker);
+  auto *bytes = static_cast<std::byte *>(buffer);
+  bytes[0] = std::byte{AAA_MARSHAL_TLV};
+  ByteWriter writer(bytes + kMarkerSize, needed - kMarkerSize);
   const Error error = write_body(list, writer);
   *size = error ? 0 : needed;
   return error;

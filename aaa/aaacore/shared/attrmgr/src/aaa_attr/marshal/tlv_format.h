@@ -14,10 +14,10 @@
 
 namespace attrmgr {
 
-inline constexpr std::uint32_t kTlvMarkerSize = 1;
 inline constexpr std::uint32_t kTlvTotalSize = 4;
-inline constexpr std::uint32_t kTlvMetaLengthAt = 4;      // after the type
-inline constexpr std::uint32_t kTlvRecordHeaderSize = 8;  // type and meta length
+inline constexpr std::uint32_t kTlvTypeAt = 0;
+inline constexpr std::uint32_t kTlvMetaLengthAt = 4;
+inline constexpr std::uint32_t kTlvRecordHeaderSize = 8;
 inline constexpr std::uint32_t kTlvLengthSize = 4;
 inline constexpr std::uint32_t kTlvRecordSizeMin = kTlvRecordHeaderSize + kTlvLengthSize;
 

@@ -16,7 +16,7 @@
 
 namespace attrmgr {
 
-inline constexpr std::size_t kMarkerSize = 1;  // what stands before the blocks in a buffer
+inline constexpr std::uint32_t kMarkerSize = 1;  // what stands before the blocks in a buffer
 
 inline constexpr std::uint16_t kBlockMagic = 0xABCD;
 inline constexpr std::uint16_t kFreedMagic = 0xFFFF;
