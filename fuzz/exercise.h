@@ -153,7 +153,7 @@ inline void require_fault(const std::uint8_t *bytes, std::uint32_t length, aaa_a
 inline void use(aaa_attr_list_handle list) {
   aaa_attr_cerrno code = 0;
   REQUIRE(is_aaa_attr_list_valid(list, &code) == 1 && code == 0);
-  display(list);  // may clear bits behind an IPv6 prefix; from here on the list does not change
+  display(list);  // may clear bits after an IPv6 prefix; from here on the list does not change
   const std::vector<std::string> seen = walk_list(list);
   marshal(list);
 

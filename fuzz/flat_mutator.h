@@ -1,5 +1,5 @@
 // A mutator for flat forms: every other mutation is followed by a repair of the structure (magic, lengths, counts,
-// flags), so that the fuzzer gets past the first checks and spends its time on what lies behind them.
+// flags), so that the fuzzer gets past the first checks and spends its time on what comes after them.
 #pragma once
 
 #include <attrmgr/attrmgr.h>

@@ -221,7 +221,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
   REQUIRE(is_aaa_attr_buffer_valid(copy.data(), length, &code) == 1);
   REQUIRE(aaa_attr_buffer_to_list(copy.data(), length, &scrubbed) == 0);
   REQUIRE(aaa_attr_list_eq(list, scrubbed) == 1);
-  REQUIRE(printed([list] { aaa_attr_list_print(list); }) == lines);  // and clears bits behind IPv6 prefixes in the list
+  REQUIRE(printed([list] { aaa_attr_list_print(list); }) == lines);  // and clears bits after IPv6 prefixes in the list
   aaa_attr_list_free(scrubbed);
   aaa_attr_list_free(list);
   refuse_other_markers(copy.data(), length);

@@ -1,5 +1,5 @@
 // radcli: a linked list of rc_value_pairs of one size, each with a copy of its attribute's name. Types are attributes
-// of a vendor in a dictionary in its text form. An attribute is appended behind the last one, where rc_avpair_add()
+// of a vendor in a dictionary in its text form. An attribute is appended after the last one, where rc_avpair_add()
 // would walk the whole list. It has no wire form of its own: requests are encoded as they are sent.
 #include <attrmgr/aaa_attr_dict.h>
 #include <radcli/radcli.h>
@@ -66,7 +66,7 @@ class Radcli {
       } else {
         VALUE_PAIR one = *pair;
         one.next = nullptr;
-        append(into, last, rc_avpair_copy(&one));  // which would copy all behind it
+        append(into, last, rc_avpair_copy(&one));  // which would copy all after it
       }
     }
   }

@@ -73,11 +73,11 @@ Line split(std::string_view text) {
   text.remove_prefix(name_end);
   if (text.starts_with('[')) {
     const std::size_t close = text.find(']');
-    if (close == std::string_view::npos) throw unexpected("']' behind the note", text);
+    if (close == std::string_view::npos) throw unexpected("']' after the note", text);
     line.meta = meta_from_note(text.substr(1, close - 1));
     text = trim(text.substr(close + 1));
   }
-  if (!text.starts_with('=')) throw unexpected("'=' behind " + quoted(line.name), text);
+  if (!text.starts_with('=')) throw unexpected("'=' after " + quoted(line.name), text);
   line.value = trim(text.substr(1));
   return line;
 }
@@ -146,7 +146,7 @@ class ListBuilder {
   }
 
   void close_group(std::string_view text) {
-    if (text != "}") throw unexpected("nothing behind '}'", trim(text.substr(1)));
+    if (text != "}") throw unexpected("nothing after '}'", trim(text.substr(1)));
     if (groups_.empty()) throw BadText("found '}', but no group is open");
     groups_.pop_back();
   }

@@ -74,7 +74,7 @@ int run_receiver(Channel &channel) {
       std::printf("%td attributes, counted in the buffer as it lies\n", std::ranges::distance(in_place));
     }
     attrmgr::list list = attrmgr::list::from_bytes(message);  // checks by itself
-    const attrmgr::bytes answer = list.to_flat();             // as received: printing clears bits behind an IPv6 prefix
+    const attrmgr::bytes answer = list.to_flat();             // as received: printing clears bits after an IPv6 prefix
     aaa_attr_list_print(list.handle());
     flush_output();
     channel.send(answer);

@@ -70,7 +70,7 @@ std::string unquote(std::string_view text) {
     }
   }
   if (rest.empty()) throw unexpected("a closing quote at the end of the line", text);
-  if (rest.size() > 1) throw unexpected("nothing behind the closing quote", rest.substr(1));
+  if (rest.size() > 1) throw unexpected("nothing after the closing quote", rest.substr(1));
   return plain;
 }
 
@@ -131,7 +131,7 @@ Bytes prefix_value(std::string_view text) {
   Bytes cleared(AAA_IPV6_ADDRESS_SIZE);
   std::uint8_t bits = 0;
   aaa_attr_decode_ipv6_prefix(value.data(), cleared.data(), &bits);
-  if (cleared != *ipv6) throw unexpected("zero bits behind the prefix length", text);
+  if (cleared != *ipv6) throw unexpected("zero bits after the prefix length", text);
   return value;
 }
 
@@ -184,7 +184,7 @@ std::uint64_t required_number(std::string_view text, std::uint64_t max) {
 }
 
 Bytes value_from_text(std::uint32_t type, std::string_view text) {
-  if (text.empty()) throw BadText("expected a value behind '='");
+  if (text.empty()) throw BadText("expected a value after '='");
   switch (aaa_attr_get_format_from_type(type)) {
     case AAA_ATTR_FMT_STRING:
     case AAA_ATTR_FMT_STRING_ATTR:

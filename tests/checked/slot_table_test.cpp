@@ -101,8 +101,9 @@ TEST(CheckedTable, ServesThreads) {
   EXPECT_EQ(wrong, 0);
 }
 
-// Two threads free the same lists in the same order: the one behind finds the way paved and catches up, so that they
-// meet again and again. Each list ends once and its slot is given back once, so that no two lists share it later.
+// Two threads free the same lists in the same order. The slower one finds the slots in the cache already and catches
+// up, so that they meet again and again. Each list ends once and its slot is given back once, so that no two lists
+// share it later.
 TEST(CheckedTable, FreesThatRaceEndOneListOnce) {
   constexpr int kRounds = 10, kLists = 50000;
   std::vector<std::uint64_t> handles(kLists);

@@ -41,7 +41,7 @@ TEST(CursorWalk, EndsAtTypeZeroAndGoesOnAndSeesWhatIsAddedBehindItsBlock) {
   List list = list_of("T=a 0=null U=b V=c");
   aaa_cursor *cursor = nullptr;
   ASSERT_EQ(aaa_cursor_alloc(list, &cursor), 0u);
-  EXPECT_EQ(aaa_cursor_move_by_type(cursor, type_named('U')), 0) << "it is behind the end";
+  EXPECT_EQ(aaa_cursor_move_by_type(cursor, type_named('U')), 0) << "it is past the end";
   EXPECT_EQ(aaa_cursor_move_by_type(cursor, type_named('V')), 1);
   EXPECT_EQ(aaa_cursor_move_by_type(cursor, type_named('U')), 0) << "no way back";
   EXPECT_EQ(aaa_cursor_move_by_type(cursor, 0), 1) << "the end is what type 0 asks for";
@@ -145,7 +145,7 @@ TEST(CursorAllocation, OpensListsOnly) {
   } while (aaa_cursor_get_next(cursor) != 0);
   EXPECT_EQ(opened, " 8e 00{197 6 } 86 8a 8c");
   aaa_cursor_free(cursor);
-  gone.put(0, 0xABCD);  // behind a handle that names no list, it is freed all the same
+  gone.put(0, 0xABCD);  // under a handle that names no list, it is freed all the same
 
   for (const bool filtered : {false, true}) {
     const auto code = filtered ? aaa_cursor_alloc_filtered(0, &cursor, 3, 7) : aaa_cursor_alloc(0, &cursor);

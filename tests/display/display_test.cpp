@@ -13,7 +13,7 @@ namespace {
 
 using namespace std::literals;
 
-// Everything that a call hands out, each line behind a '|'.
+// Everything that a call hands out, each line after a '|'.
 template <class Call>
 std::string handed(Call call, aaa_attr_list_handle list) {
   std::string text;
@@ -80,7 +80,7 @@ TEST(AttributeLine, EveryFormat) {
       {"value too long", 197, std::string(231, 'x') + '\0', "username        len=231  ", kTooLong, kTooLong},
       {"octets cut at the line's end", 30, std::string(100, 'x'), "user-data       len=100  ", octets.substr(0, 230),
        "value= " + octets.substr(0, 223)},
-      {"type behind the last", 623, "abc", "\nBAD TYPE 623 length 3", "", ""},
+      {"type after the last", 623, "abc", "\nBAD TYPE 623 length 3", "", ""},
   };
   for (const auto &row : rows) {
     SCOPED_TRACE(row.what);
@@ -167,7 +167,7 @@ TEST(ListText, LiAttributesAreHidden) {
   }
 }
 
-// Showing a prefix clears the bits behind its length: in a list for good, in a buffer for the eye only.
+// Showing a prefix clears the bits after its length: in a list for good, in a buffer for the eye only.
 TEST(ListText, PrefixesAreMasked) {
   const std::string value = "\0\x3c"s + std::string(16, '\xff'), shown = "ffff:ffff:ffff:fff0::/60";
   for (const auto display : {aaa_attr_list_display, aaa_attr_list_display_brief, summarize}) {
@@ -180,7 +180,7 @@ TEST(ListText, PrefixesAreMasked) {
   EXPECT_EQ(buffer, before);
 }
 
-// The k-th Grouped record of a block owns the k-th list behind it.
+// The k-th Grouped record of a block owns the k-th list after it.
 TEST(BufferPrint, NestedListsOfTheirRecords) {
   const auto grouped = [](char n, unsigned flags = 0) { return record(444, n + "\0\0\0hand"s, flags); };
   const auto list_of_one = [](unsigned flags, char n) { return block(flags, 1, {record(2, n + "\0\0\0"s)}); };

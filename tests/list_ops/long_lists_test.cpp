@@ -81,7 +81,7 @@ TEST(LongList, IsSearchedAsItIsWalked) {
   }
 }
 
-// Behind a record of type 0 nothing is found, in whatever block it stands. The first of a process tells it for good:
+// After a record of type 0 nothing is found, in whatever block it stands. The first of a process tells it for good:
 // the two ways in which it can come have a test each.
 TEST(LongList, EndsAtTypeZeroThatWasAdded) {
   List list = long_list(1, 100);

@@ -45,7 +45,7 @@ TEST(Chain, IsWholeAndGrowsAtItsEnd) {
     EXPECT_EQ(shape(list), blocks);
     for (const Block block : blocks_of(list))
       EXPECT_TRUE(block.at(0) == Block(list).at(0) || block.get<std::uint32_t>(12) == 0) << "no hint but in the head";
-    // The end is found again by a record that may have room there and by one that has not.
+    // The end is found again by a record that may have room there and by one that does not fit.
     std::string_view more = "V=x V=*";
     add_items(more, list);
     EXPECT_EQ(outline(list), outline_of(after + " V=x V=*"));
@@ -145,10 +145,10 @@ std::string bytes_of(aaa_attr_list_handle list) {
   return bytes;
 }
 
-// Lists nested 128 deep around `innermost`: before and behind are the texts around the sub-list of each level.
-std::string nested(const std::string &innermost, const std::string &before, const std::string &behind) {
+// Lists nested 128 deep around `innermost`: before and after are the texts around the sub-list of each level.
+std::string nested(const std::string &innermost, const std::string &before, const std::string &after) {
   std::string text = innermost;
-  for (int level = 0; level < AAA_ATTR_NESTING_MAX; ++level) text = before + "G{" + text + "}" + behind;
+  for (int level = 0; level < AAA_ATTR_NESTING_MAX; ++level) text = before + "G{" + text + "}" + after;
   return text;
 }
 
@@ -173,7 +173,7 @@ TEST(Equality, ComparesSetsOfAttributesAndLeavesNoTrace) {
       {nested("", "T=x ", ""), nested("", "", " T=x"), true, "opposite order"},
       {nested("U=a", "T=x ", ""), nested("U=b", "", " T=x"), false, "opposite order, another innermost list"},
       {nested("U=a", "", ""), nested("U=b", "", ""), false, "the same order, another innermost list"},
-      {nested("", "", " T=x U=y"), nested("", "", " U=y T=x"), true, "the order differs behind the sub-list"},
+      {nested("", "", " T=x U=y"), nested("", "", " U=y T=x"), true, "the order differs after the sub-list"},
       {nested("", "G{T=x} ", ""), nested("", "", " G{T=x}"), true, "two of a type in opposite order"},
       {nested("U=a", "G{T=x} ", ""), nested("U=b", "", " G{T=x}"), false, "two of a type, another innermost list"},
       {nested("", "G{} T=x G{T=x} ", ""), nested("", "T=x G{T=x} G{T=x} ", " G{}"), true, "with duplicates"},

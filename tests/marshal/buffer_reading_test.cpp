@@ -24,7 +24,7 @@ TEST(Decode, ByMarker) {
   EXPECT_EQ(handle, 77u) << "left as it was";
 }
 
-// Values short enough for the room that a Grouped record left at the end of a block come behind it all the same.
+// Values short enough for the room that a Grouped record left at the end of a block come after it all the same.
 TEST(Decode, TlvInOrder) {
   List list, decoded;
   for (unsigned i = 0; i < 300; ++i) {
@@ -85,7 +85,7 @@ TEST(LookUp, FindsTheFirstInBufferOrder) {
   };
   EXPECT_EQ(answer("", 197, 5), Answer(0, 4, AAA_ATTR_FMT_STRING, hex("626f6200ee"))) << "a text comes with its NUL";
   EXPECT_EQ(answer("", 197, 3), Answer(AAA_ATTR_ERR_NO_MEMORY, 0, 99, hex("eeeeee"))) << "no room for the NUL";
-  // The removed record gets another type: 2 is first met in the nested list, then in the block behind that.
+  // The removed record gets another type: 2 is first met in the nested list, then in the block after that.
   EXPECT_EQ(answer("61=1e00", 2, 4), Answer(0, 4, AAA_ATTR_FMT_ULONG, hex("05000000")));
   EXPECT_EQ(answer("61=1e00 97=0300", 2, 4), Answer(0, 4, AAA_ATTR_FMT_ULONG, hex("07000000")));
   EXPECT_EQ(answer("", 197, 0), Answer(AAA_ATTR_ERR_BAD_ARG, 0, 99, Bytes()));

@@ -32,7 +32,7 @@ constexpr int kBlockFlagPlaces[] = {7, 6, 5, 4, 2, 3, 0, 1};
 constexpr int kRecordFlagPlaces[] = {15, 14, 7, 8, 9, 10, 11, 12, 13, 0, 1, 2, 3, 4, 5, 6};
 constexpr int kMetaFlagPlaces[] = {15, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14};
 
-// A flat buffer lies block behind block, nested or not, so the mapping needs no structure.
+// A flat buffer lies block after block, nested or not, so the mapping needs no structure.
 Bytes network_form(Bytes buffer) {
   const auto swap = [&buffer](std::size_t at, unsigned size) { std::reverse(&buffer[at], &buffer[at] + size); };
   const auto number = [&buffer](std::size_t at) { return std::size_t{buffer[at]} + 256u * buffer[at + 1]; };

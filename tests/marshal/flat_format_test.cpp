@@ -95,7 +95,7 @@ TEST(Gather, EntriesAddUpToTheFlatBuffer) {
       EXPECT_EQ(aaa_attr_list_to_array(list, capacity == 0 ? nullptr : &made, &count),
                 capacity < entries ? AAA_ATTR_ERR_BAD_ARG : 0);
       EXPECT_EQ(count, entries);
-      EXPECT_EQ(given[capacity < entries ? 0 : entries].length, 77u) << "written in vain, or behind the entries";
+      EXPECT_EQ(given[capacity < entries ? 0 : entries].length, 77u) << "written in vain, or after the entries";
     }
     std::uint32_t count = 0;
     ASSERT_EQ(aaa_attr_list_to_array(list, &allocated, &count), 0u);

@@ -1,4 +1,4 @@
-// Buffers that do not hold together: every reader refuses them, reads nothing behind them and leaves nothing behind.
+// Buffers that do not hold together: every reader refuses them, reads nothing past their end and leaves nothing behind.
 #include <attrmgr/attrmgr.h>
 #include <gtest/gtest.h>
 

@@ -51,7 +51,7 @@ inline constexpr Type kTypes[] = {{type::kUlong, AAA_ATTR_FMT_ULONG, 4},
                                   {0, AAA_ATTR_FMT_ULONG, 4},
                                   {AAA_ATTR_TYPE_COUNT, AAA_ATTR_FMT_STRING}};
 
-// Behind a record of type 0 nothing is found: what happens without any has to be seen, too.
+// After a record of type 0 nothing is found: what happens without any has to be seen, too.
 inline constexpr std::size_t kTypeZeroAt = std::size(kTypes) - 2;
 static_assert(kTypes[kTypeZeroAt].number == 0);
 

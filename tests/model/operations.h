@@ -111,7 +111,7 @@ inline Code cursor_remove(Call &c) {
   for (unsigned n = 0; Attr * a : live(c.list, c.meta)) {
     agree("type of the walk", aaa_cursor_get_next(walk.cursor), a->type);
     if (c.choice >> n++ % 16 & 1) continue;
-    for (List &sub : a->sub) aaa_cursor_get_grouped_attr_handle(walk.cursor, &sub.handle);  // may lie behind a type 0
+    for (List &sub : a->sub) aaa_cursor_get_grouped_attr_handle(walk.cursor, &sub.handle);  // may lie after a type 0
     aaa_cursor_remove(walk.cursor);
     erase(*a, kLeft);
   }

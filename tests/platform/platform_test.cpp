@@ -12,7 +12,7 @@
 
 namespace {
 
-// Every pattern of zero and non-zero groups, against the system's own; nothing is written behind the NUL.
+// Every pattern of zero and non-zero groups, against the system's own; nothing is written after the NUL.
 TEST(Ipv6Text, AgreesWithTheSystem) {
   for (const unsigned group : {0x0001u, 0x0a0bu, 0x1000u, 0xfffeu, 0xffffu})
     for (unsigned pattern = 0; pattern < 256; ++pattern) {

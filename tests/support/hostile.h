@@ -14,7 +14,7 @@ inline constexpr char kOneUlong[] =
 // The same list as a sender with the 16-byte header writes it.
 inline constexpr char kForeign[] = "01  cdab0113 0100 0100 e401 1c00 00000000  0200 0000 04000000 05000000";
 
-// Every kind of structure: two blocks, a nested list behind each, meta, a removed record, a producer client type.
+// Every kind of structure: two blocks, a nested list after each, meta, a removed record, a producer client type.
 inline constexpr char kNested[] = R"(
   01  cdab0125 0200 0300 b801 4800 00000000 f0debc0a007f0000                           #   1 head, holds grouped
     c500 0100 04000000 0102341201001000 626f6200   bc01 0000 08000000 1111111122222222 #  25 username "bob"; 45 Grouped
@@ -50,7 +50,7 @@ inline Bytes join(std::initializer_list<Bytes> parts) {
 
 inline std::uint32_t size_of(const Bytes &buffer) { return static_cast<std::uint32_t>(buffer.size()); }
 
-// The first bytes, allocated to size, so that the address sanitizer sees the first byte read behind them.
+// The first bytes, allocated to size, so that the address sanitizer sees the first byte read past their end.
 inline Bytes head_of(const Bytes &buffer, std::size_t size) {
   return Bytes(buffer.begin(), buffer.begin() + static_cast<std::ptrdiff_t>(size));
 }

@@ -116,7 +116,7 @@ inline aaa_attr_cerrno decode(const Bytes &buffer, List *list) {
 }
 
 // A list's attributes as text, "type=value" each: what it holds and in which order. Values in hexadecimal, sub-lists in
-// braces; a meta as "[service,protocol,tag,flags,client]" and a producer client type as "@n" behind the type.
+// braces; a meta as "[service,protocol,tag,flags,client]" and a producer client type as "@n" after the type.
 inline std::string outline(aaa_attr_list_handle list) {
   std::string text;
   aaa_cursor *cursor = nullptr;

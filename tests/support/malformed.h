@@ -96,7 +96,7 @@ inline Bytes tlv_binary(std::size_t length) {
   return join({{AAA_MARSHAL_TLV}, little(length + 16, 4), little(type::kBinary, 8), little(length, 4), Bytes(length)});
 }
 
-// A list of one record, in a block of either layout; as the first block, or behind an empty one.
+// A list of one record, in a block of either layout; as the first block, or after an empty one.
 inline Bytes lone(unsigned flags, const Bytes &record) { return flat({block(kHead | kLast | flags, 1, {record})}); }
 inline Bytes chained(unsigned flags, const Bytes &record) {
   return flat({block(kHead | flags, 2, {}), block(kLast | flags, 1, {record})});
@@ -115,14 +115,14 @@ inline std::vector<Case> block_cases() {
       flat_case("the header is cut short", head_of(hex(golden::kNested), 12), "DVT", {AAA_ATTR_RULE_BLOCK_HEADER, 1},
                 "11 bytes do not reach the block's length"),
       flat_case("the header of the foreign layout is cut short", patched(head_of(hex(golden::kForeign), 15), "11=0e"),
-                "DVT", {AAA_ATTR_RULE_USED_MIN, 11}, "`next` and the records would be read behind the buffer",
+                "DVT", {AAA_ATTR_RULE_USED_MIN, 11}, "`next` and the records would be read past the end of the buffer",
                 {{'V', {AAA_ATTR_RULE_NATIVE_LAYOUT, 4}}}),
       nested("no magic, in a nested list", "73=00", "DVT", {AAA_ATTR_RULE_MAGIC, 73},
              "nothing else tells that a block begins here"),
       nested("used bytes below the header", "11=1700", "DVT", {AAA_ATTR_RULE_USED_MIN, 11},
-             "the block behind would begin in this header"),
+             "the next block would begin in this header"),
       nested("used bytes above what remains", "171=1900", "DVT", {AAA_ATTR_RULE_USED_MAX, 171},
-             "records would be read behind the buffer"),
+             "records would be read past the end of the buffer"),
       nested("a record more than there are", "7=0400", "DVT", {AAA_ATTR_RULE_RECORD_COUNT, 7},
              "the next block would be read as a record"),
       nested("a record less than there are", "7=0200", "DVT", {AAA_ATTR_RULE_RECORD_COUNT, 7},
@@ -144,7 +144,7 @@ inline std::vector<Case> block_cases() {
 inline std::vector<Case> record_cases() {
   return {
       flat_case("5 bytes where a record should begin", lone(0, Bytes(5)), "DVT", {AAA_ATTR_RULE_RECORD_HEADER, 25},
-                "its length would be read behind the block"),
+                "its length would be read past the end of the block"),
       nested("a length that passes the block", "65=05", "DVT", {AAA_ATTR_RULE_RECORD_LENGTH, 65},
              "the value would end in the next block"),
       nested("a length that wraps to a small record in 32 bits", "29=f4ffffff", "DVT",
@@ -152,7 +152,7 @@ inline std::vector<Case> record_cases() {
       nested("a meta that is not there, in the last record", "151=01", "DVT", {AAA_ATTR_RULE_RECORD_META, 151},
              "the value would be taken for the meta, and what follows the block for the value"),
       nested("a text without its NUL", "44=21", "DV", {AAA_ATTR_RULE_TEXT_END, 44},
-             "readers are promised a NUL behind every text"),
+             "readers rely on a NUL after every text"),
       nested("a text of no bytes", "133=c5000000 137=00 141=1e00000000000000 115=0300", "DV",
              {AAA_ATTR_RULE_TEXT_LENGTH, 137}, "there is no room for the NUL"),
       nested("a Boolean of 4 bytes", "149=1900", "T", {AAA_ATTR_RULE_BOOLEAN_LENGTH, 153},
@@ -171,7 +171,7 @@ inline std::vector<Case> chain_cases() {
       nested("a nested list of no blocks", "77=0000", "DVT", {AAA_ATTR_RULE_BLOCK_COUNT, 77},
              "its record would own what never came"),
       nested("a list of more blocks than there are", "5=0300", "DVT", {AAA_ATTR_RULE_COUNTED_BLOCK, 185},
-             "the third would be read behind the buffer", {{'V', {AAA_ATTR_RULE_NEXT, 125}}}),
+             "the third would be read past the end of the buffer", {{'V', {AAA_ATTR_RULE_NEXT, 125}}}),
       nested("a first block that is no head", "4=24", "DV", {AAA_ATTR_RULE_HEAD_FLAG, 4},
              "only a head says how many blocks there are"),
       nested("a second head in the chain", "112=27", "DV", {AAA_ATTR_RULE_ONE_HEAD, 112},
@@ -192,12 +192,12 @@ inline std::vector<Case> nesting_cases() {
              {AAA_ATTR_RULE_HANDLE_LENGTH, 49}, "no room for a handle"),
       nested("a Grouped record in a block that claims none", "4=21", "DV", {AAA_ATTR_RULE_GROUPED_FLAG, 4},
              "readers that trust the flag take the nested list for the next block"),
-      flat_case("the same, and no list behind the block", lone(0, grouped), "DV", {AAA_ATTR_RULE_GROUPED_FLAG, 4},
+      flat_case("the same, and no list after the block", lone(0, grouped), "DV", {AAA_ATTR_RULE_GROUPED_FLAG, 4},
                 "the flag counts: to the translation the buffer is whole"),
       nested("more live Grouped records than lists", "25=bc01000008000000 41=bc01000008000000 57=bc01000008000000",
              "DVT", {AAA_ATTR_RULE_HEAD_FLAG, 112}, "the blocks that follow would be given to the wrong records",
              {{'T', {AAA_ATTR_RULE_OWNED_LIST, 185}}}),
-      flat_case("no list behind a Grouped record", lone(kGroups, grouped), "DVT", {AAA_ATTR_RULE_OWNED_LIST, 41},
+      flat_case("no list after a Grouped record", lone(kGroups, grouped), "DVT", {AAA_ATTR_RULE_OWNED_LIST, 41},
                 "it would own what never came"),
       flat_case("a removed Grouped record before a live one",
                 flat({block(kHead | kGroups, 2, {removed, grouped}), one, block(kLast, 1, {binary(1)})}), "", kNoFault,
@@ -213,7 +213,7 @@ inline std::vector<Case> in_place_cases() {
       nested("`next` of a block with a successor is 0", "17=0000000000000000", "V", {AAA_ATTR_RULE_NEXT, 17},
              "a cursor would not go on where the decoder does"),
       nested("`next` of the last block is not 0", "132=01", "V", {AAA_ATTR_RULE_NEXT, 125},
-             "a cursor would go on behind the buffer"),
+             "a cursor would go on past the end of the buffer"),
       flat_case("a block of the foreign layout", hex(golden::kForeign), "V", {AAA_ATTR_RULE_NATIVE_LAYOUT, 4},
                 "a cursor expects the records 8 bytes further on"),
       flat_case("a block of the foreign layout that begins with zeros", lone(kForeignHeader, record(0, "")), "VT",
@@ -224,7 +224,7 @@ inline std::vector<Case> in_place_cases() {
                 "an empty list to the decoder, nothing to stand on for a cursor"),
       nested("free and reserved bytes", "9=ffff 13=ffffffff", "", kNoFault, "nobody reads them"),
       nested("a type above 622", "149=6f02", "", kNoFault, "a later version's attribute, shown as such"),
-      flat_case("bytes behind the outer list", join({hex(golden::kNested), {0xEE}}), "", kNoFault, "ignored"),
+      flat_case("bytes after the outer list", join({hex(golden::kNested), {0xEE}}), "", kNoFault, "ignored"),
   };
 }
 
@@ -255,10 +255,10 @@ inline std::vector<Case> tlv_cases() {
       tlv("a total that does not count itself", "1=03", AAA_ATTR_ERR_BAD_LENGTH, {AAA_ATTR_RULE_TLV_TOTAL_MIN, 1},
           "less than nothing would remain"),
       tlv("a total near 2^32", "1=ffffffff", AAA_ATTR_ERR_BAD_LENGTH, {AAA_ATTR_RULE_TLV_TOTAL_MAX, 1},
-          "records would be read behind the buffer"),
+          "records would be read past the end of the buffer"),
       tlv("a nested total that passes the outer list", "36=31", AAA_ATTR_ERR_BAD_LENGTH,
           {AAA_ATTR_RULE_TLV_TOTAL_MAX, 36}, "its last record would be one of the outer list"),
-      tlv("5 bytes behind the last whole record", "1=48", AAA_ATTR_ERR_BAD_LENGTH, {AAA_ATTR_RULE_TLV_RECORD, 68},
+      tlv("5 bytes after the last whole record", "1=48", AAA_ATTR_ERR_BAD_LENGTH, {AAA_ATTR_RULE_TLV_RECORD, 68},
           "a record that is cut short"),
       tlv("a value length that wraps a 32-bit position", "21=f0ffffff", AAA_ATTR_ERR_BAD_LENGTH,
           {AAA_ATTR_RULE_TLV_LENGTH, 21}, "a sum of 32 bits would find that it fits"),
@@ -278,7 +278,7 @@ inline std::vector<Case> tlv_cases() {
       other_case("lists nested 128 deep", nested_tlv(AAA_ATTR_NESTING_MAX), 0, kNoFault, "the limit"),
       other_case("no total", {AAA_MARSHAL_TLV}, AAA_ATTR_ERR_BAD_LENGTH, {AAA_ATTR_RULE_TLV_TOTAL, 1},
                  "an empty list has a total, too"),
-      other_case("bytes behind the outer list", join({whole, {0xEE}}), 0, kNoFault, "ignored"),
+      other_case("bytes after the outer list", join({whole, {0xEE}}), 0, kNoFault, "ignored"),
   };
 }
 

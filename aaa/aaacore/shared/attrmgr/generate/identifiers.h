@@ -4,7 +4,7 @@
 //   value "Tunnel-Start"     AAA_ACCT_STATUS_TYPE_TUNNEL_START
 //
 // Where two types would get the same identifier the lower one keeps it, as a look-up by name finds the lower one too,
-// so that no row added at the end renames a constant in use. The other gets its format behind it, SESSION_ID_STRING, or
+// so that no row added at the end renames a constant in use. The other gets its format after it, SESSION_ID_STRING, or
 // a number when the formats are the same: INPUT_OCTETS_2. A value name that comes back in its table gets its number.
 #pragma once
 
@@ -24,7 +24,7 @@ struct Type {
   std::uint32_t number;
   std::string name;
   std::string suffix;         // "ACCT_STATUS_TYPE"
-  std::string cpp;            // "acct_status_type"; an underscore behind it where C++ has a keyword of that name
+  std::string cpp;            // "acct_status_type"; an underscore after it where C++ has a keyword of that name
   std::vector<Value> values;  // of Enum types
 };
 

@@ -19,7 +19,7 @@ attribute of RADIUS or Diameter they stand for where that is certain. `scripts/d
 header `attrmgr/aaa_attr_names.h` from `src/dictionary/*.def`; the build compares.
 
 - **constant** `AAA_ATTR_TYPE_X` of `attrmgr/aaa_attr_names.h`. In C++ the same name in small letters is the typed
-  constant, `attrmgr::attr::username`, with an underscore behind it where C++ has a keyword of that name (`class_`,
+  constant, `attrmgr::attr::username`, with an underscore after it where C++ has a keyword of that name (`class_`,
   `or_`).
 - **format** what a value is, and how long: [docs of the formats](../aaa/aaacore/shared/attrmgr/include/attrmgr/aaa_attr_dict.h).
   An Enum leads to the names of its values.
