@@ -19,6 +19,9 @@ _Static_assert(CDM_ENDIAN_TRAN_HTON == 1 && CDM_ENDIAN_TRAN_NTOH == 2 && sizeof(
 _Static_assert(sizeof(aaa_attr_fault) == 8 && AT(aaa_attr_fault, offset, 4) && AAA_ATTR_READER_NTOH == 4 &&
                    sizeof(aaa_attr_reader) == 4 && AAA_ATTR_RULE_BOOLEAN_LENGTH == 27 && AAA_ATTR_RULE_TLV_ROOM == 37,
                "faults, and rules, whose numbers stay");
+_Static_assert(sizeof(aaa_attr_field) == 32 && AT(aaa_attr_field, number, 24) && AAA_ATTR_FIELD_VALUE == 19 &&
+                   AAA_ATTR_FIELD_UNREAD == 22,
+               "fields, whose numbers stay");
 _Static_assert(AAA_ATTR_FMT_STRING_ATTR == 10 && AAA_ATTR_FMT_OPAQUE == 13 && AAA_ATTR_FMT_SPECIAL == 14 &&
                    AAA_ATTR_FMT_IPX_NETWORK == 15 && AAA_ATTR_FMT_DIAMETER_IDENTITY == 20 &&
                    AAA_ATTR_FMT_IP_FILTER_RULE == 21 && AAA_ATTR_FMT_QOS_FILTER_RULE == 22,

@@ -90,9 +90,8 @@ typedef struct aaa_attr_fault {
 AAA_API aaa_attr_cerrno aaa_attr_buffer_fault(const void *buffer, uint32_t length, aaa_attr_reader reader,
                                               aaa_attr_fault *fault) AAA_NOEXCEPT;
 
-/* Returns the rule as a constant sentence, without a full stop: "a block must begin with the magic number 0xABCD". It is
-   empty for AAA_ATTR_RULE_NONE and for a number that is no rule.
-   rule: AAA_ATTR_RULE_*.
+/* Returns the rule as a constant sentence, without a full stop: "a block must begin with the magic number 0xABCD".
+   rule: AAA_ATTR_RULE_*; the sentence of AAA_ATTR_RULE_NONE, and of a number that is no rule, is empty.
    Owner: the library; the text is constant. */
 AAA_API const char *aaa_attr_rule_text(uint32_t rule) AAA_NOEXCEPT;
 

@@ -13,6 +13,7 @@
 #include <attrmgr/aaa_attr_dict.h>    /* attribute types, formats, names */
 #include <attrmgr/aaa_attr_display.h> /* lists as text */
 #include <attrmgr/aaa_attr_fault.h>   /* why a buffer is refused */
+#include <attrmgr/aaa_attr_fields.h>  /* what each byte of a buffer is */
 #include <attrmgr/aaa_attr_marshal.h> /* lists as bytes */
 #include <attrmgr/aaa_attr_names.h>   /* constants for all types and values */
 #include <attrmgr/aaa_attr_types.h>   /* result codes, handles, attribute meta */

@@ -1,15 +1,12 @@
-// Why a buffer is refused: the readers of the calls that refuse it, asked to name what is broken.
-#include <attrmgr/aaa_attr_fault.h>
-#include <attrmgr/aaa_attr_marshal.h>
+#include "aaa_attr/marshal/buffer_fault.h"
 
 #include "aaa_attr/marshal/tlv_reader.h"
 #include "aaa_attr/marshal/translatable.h"
 #include "aaa_attr/store/network_form.h"
 #include "aaa_attr/walk/flat_reader.h"
 
+namespace attrmgr {
 namespace {
-
-using namespace attrmgr;
 
 // A buffer after its marker.
 struct Body {
@@ -66,13 +63,18 @@ Answer read_as(aaa_attr_reader reader, const std::byte *buffer, std::uint32_t le
 
 }  // namespace
 
+Error find_fault(const std::byte *buffer, std::uint32_t length, aaa_attr_reader reader, aaa_attr_fault *fault) {
+  *fault = {AAA_ATTR_RULE_NONE, 0};
+  if (buffer == nullptr || length == 0) return AAA_ATTR_ERR_BAD_ARG;
+  const Answer answer = read_as(reader, buffer, length);
+  *fault = {static_cast<std::uint32_t>(answer.fault.rule), static_cast<std::uint32_t>(answer.fault.at - buffer)};
+  return answer.error;
+}
+
+}  // namespace attrmgr
+
 aaa_attr_cerrno aaa_attr_buffer_fault(const void *buffer, std::uint32_t length, aaa_attr_reader reader,
                                       aaa_attr_fault *fault) noexcept {
   if (fault == nullptr) return AAA_ATTR_ERR_BAD_ARG;
-  *fault = {AAA_ATTR_RULE_NONE, 0};
-  if (buffer == nullptr || length == 0) return AAA_ATTR_ERR_BAD_ARG;
-  const auto *bytes = static_cast<const std::byte *>(buffer);
-  const Answer answer = read_as(reader, bytes, length);
-  *fault = {static_cast<std::uint32_t>(answer.fault.rule), static_cast<std::uint32_t>(answer.fault.at - bytes)};
-  return answer.error.code;
+  return attrmgr::find_fault(static_cast<const std::byte *>(buffer), length, reader, fault).code;
 }

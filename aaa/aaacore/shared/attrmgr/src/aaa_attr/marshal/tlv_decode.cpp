@@ -25,16 +25,14 @@ Error add_sub_list(ListEnd &parent, NewAttribute attribute, const void *owner, U
 }  // namespace
 
 // What the reader keeps, the compiler holds in registers as long as nobody else is given the reader.
-Error aaa_attr_tlv_buffer_to_list(const std::byte *bytes, std::uint64_t length, BlockView list,
-                                            const void *owner) {
+Error aaa_attr_tlv_buffer_to_list(const std::byte *bytes, std::uint64_t length, BlockView list, const void *owner) {
   TlvReader<> reader(bytes, length);
   Unwritten<ListEnd> lists[AAA_ATTR_NESTING_MAX + 1];  // that are being filled, by depth
   lists[0].write(ListEnd(list));
   while (reader.next()) {
     ListEnd &to = lists[reader.depth()].value;
-    const Error error = reader.opens_list()
-                                     ? add_sub_list(to, reader.attribute(), owner, &lists[reader.depth() + 1])
-                                     : append_checked(to, reader.attribute(), reader.measured());
+    const Error error = reader.opens_list() ? add_sub_list(to, reader.attribute(), owner, &lists[reader.depth() + 1])
+                                            : append_checked(to, reader.attribute(), reader.measured());
     if (error) return error;
   }
   return reader.error();

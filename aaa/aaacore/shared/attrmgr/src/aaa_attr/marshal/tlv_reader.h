@@ -107,6 +107,7 @@ class TlvReader {
 
   bool refuse(aaa_attr_rule rule, Error error, const std::byte *at) {
     fault_.note(rule, at);
+    fault_.note_list(ends_[depth_], depth_);
     error_ = error;
     depth_ = 0;  // there is no way on
     return false;

@@ -66,7 +66,9 @@ class FlatReader {
   bool holds_secret() const { return (findings_.type_traits & kHoldsSecret) != 0; }
   std::uint32_t list_bits() const;
   unsigned depth() const { return depth_ - 1; }  // 0 for the outer list
-  std::byte *behind() const { return at_; }      // the byte after the blocks read so far
+  // Of the list that the block which breaks the rules would be in.
+  unsigned fault_depth() const { return starts_list_ && levels_[depth_].lists_left > 0 ? depth_ : depth_ - 1; }
+  std::byte *behind() const { return at_; }  // the byte after the blocks read so far
 
  private:
   struct Level {
