@@ -28,21 +28,31 @@ def gaps(header, section, item, function):
         yield "hands out an address or a list, and names no owner of it ('Owner: ...')"
 
 
+def constant_gaps(section):
+    """Constants without a comment at the line's end, above it, or above those that it follows."""
+    shared = False
+    for item in section.items:
+        above = bool(item.comment.prose)
+        shared = item.kind == "macro" and (above or (shared and not item.trailing))
+        if item.kind == "macro" and not (item.trailing or shared):
+            yield f"{item.name} has no comment"
+
+
 def main(symbols_file, *folders):
     symbols = {line for line in pathlib.Path(symbols_file).read_text().split("\n") if line and line[0] != "#"}
     found, complaints = set(), []
     for folder in folders:
         for header in headers.read_all(folder).values():
             for section in header.sections:
+                found |= {prefix + name for name, _ in section.tables for prefix in ("name_", "value_")}
                 found |= {item.name for item in section.items if item.kind == "variable"}
+                complaints += [f"{header.name}: {gap}" for gap in constant_gaps(section)]
                 for item in section.items:
                     for function in item.functions:
                         found.add(function.name)
                         complaints += [f"{header.name}: {function.name} {gap}"
                                        for gap in gaps(header, section, item, function)]
-    # The tables of value names are declared by a macro, two a line.
-    tables = {name for name in symbols if name.startswith(("name_", "value_"))}
-    complaints += [f"{name} is exported, but no public header declares it" for name in sorted(symbols - found - tables)]
+    complaints += [f"{name} is exported, but no public header declares it" for name in sorted(symbols - found)]
     for complaint in complaints:
         print(complaint, file=sys.stderr)
     if complaints:

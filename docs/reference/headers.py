@@ -22,6 +22,7 @@ import pathlib
 import re
 
 CODE_TYPE = "aaa_attr_cerrno"
+OTHER = ("aaa_export.h", "attrmgr.h", "aaa_attr_names.h")  # headers without declarations to be read
 HANDLE_TYPE = "aaa_attr_list_handle"
 
 
@@ -40,11 +41,6 @@ class Comment:
 class Param:
     name: str
     type: str
-
-    @property
-    def is_out(self):
-        return "*" in self.type and "const" not in self.type.rsplit("*", 1)[0].split("*")[-1] and \
-            not self.type.startswith("const")
 
     @property
     def hands_out(self):
@@ -85,6 +81,7 @@ class Section:
     title: str
     comment: Comment
     items: list = dataclasses.field(default_factory=list)
+    tables: list = dataclasses.field(default_factory=list)  # of value names: (name, the type that has them)
 
     def functions(self):
         return [f for item in self.items for f in item.functions]
@@ -233,13 +230,17 @@ class Reader:
 
 
 def read_pieces(path):
-    """(kind, lines or code), kind: comment, section, code, gap."""
+    """(kind, lines or code), kind: comment, section, code, table, gap."""
     reader = Reader(path)
     while reader.at < len(reader.lines):
         line = reader.lines[reader.at]
         if line.startswith("/*"):
             lines = reader.comment()
             yield ("section" if lines[0].startswith("---- ") else "comment"), lines
+        elif line.startswith("AAA_ATTR_VALUE_TABLE("):
+            match = re.match(r"AAA_ATTR_VALUE_TABLE\((\w+)\);\s*/\* (.*) \*/", line)
+            yield "table", (match[1], match[2])
+            reader.at += 1
         elif re.match(r"#define (?!ATTRMGR_\w+_H$)|AAA_MUST_CHECK |AAA_API |extern AAA_API |typedef |struct ", line):
             yield "code", reader.declaration()
         else:
@@ -261,6 +262,7 @@ def read(path):
     brief = lines[0].split(": ", 1)[1]
     # The first sentence is what the header has; more may follow it on the line.
     header_lines, sections = lines, [("", [])]
+    tables = []
     groups = []  # (section index, kind, comment lines, [code])
     pending, joining = None, False
     for kind, body in pieces[1:]:
@@ -269,6 +271,8 @@ def read(path):
             pending, joining = None, False
         elif kind == "comment":
             pending, joining = body, False
+        elif kind == "table":
+            tables.append(body)
         elif kind == "gap":
             pending, joining = None, False
         else:
@@ -297,16 +301,38 @@ def read(path):
         kind = "macro" if code.startswith("#define") else "variable" if code.startswith("extern") else "type"
         trailing = re.search(r"/\*(.*)\*/\s*$", code) if kind == "macro" else None
         items.append(Item(kind, comment, code, name_of(code), trailing=joined(trailing[1]) if trailing else ""))
+    header.sections[-1].tables = tables
     header.sections = [s for s in header.sections if s.items or s.title]
     return header
 
 
 def read_all(folder):
     return {path.name: read(path) for path in sorted(pathlib.Path(folder).glob("*.h"))
-            if path.name not in ("aaa_export.h", "attrmgr.h", "aaa_attr_names.h")}
+            if path.name not in OTHER}
+
+
+def opening_comment(path):
+    """The comment at the top of any header, C or C++."""
+    lines = path.read_text().split("\n")
+    if lines[0].startswith("//"):
+        end = next(i for i, line in enumerate(lines) if not line.startswith("//"))
+        return parse_comment([line[2:].removeprefix(" ") for line in lines[:end]], set())
+    end = next(i for i, line in enumerate(lines) if "*/" in line)
+    return parse_comment(strip_comment(lines[: end + 1]), set())
+
+
+def sentence(text):
+    """What stands after "name:" as a sentence of its own. A name of the interface keeps its small letter."""
+    text = text if re.match(r"[a-z]+_", text) else text[:1].upper() + text[1:]
+    return text if text.endswith((".", ":")) else text + "."
 
 
 # ---- What holds for a function ----
+
+
+def is_lead(header, page):
+    """Whether the page begins with what the header says at its top. What that of the lists says is in attrmgr(3)."""
+    return not page.sections or header.name != "aaa_attr.h"
 
 
 def param_text(header, section, item, name):

@@ -84,7 +84,7 @@ class Manual:
         """Paragraphs, points and code of a comment."""
         for block in blocks:
             if isinstance(block, str) and self.lines[-1] == ".SH DESCRIPTION":
-                block = capital(block)
+                block = headers.sentence(block)
             if isinstance(block, tuple):
                 self.paragraph()
                 self.code(block)
@@ -104,15 +104,6 @@ class Manual:
 
     def save(self, path):
         path.write_text("\n".join(self.lines) + "\n")
-
-
-def sentence(text):
-    """A clause, as it stands after "name:", as a sentence of its own."""
-    return text if text.endswith(".") else text + "."
-
-
-def capital(text):
-    return text if re.match(r"[a-z]+_", text) else text[:1].upper() + text[1:]
 
 
 # ---- The parts of a page ----
@@ -168,6 +159,14 @@ def synopsis(manual, header, sections):
     manual.raw(".fi")
 
 
+def tables(manual, sections):
+    rows = [row for section in sections for row in section.tables]
+    if rows:
+        manual.macro("SS", "Tables")
+        for name, of_type in rows:
+            manual.definition(f"\\fBname_{name}\\fP, \\fBvalue_{name}\\fP", "Of the type " + of_type + ".")
+
+
 def shared_params(manual, comments, functions):
     """Parameters described once for many functions."""
     used = {p.name for f in functions for p in f.params}
@@ -179,7 +178,7 @@ def shared_params(manual, comments, functions):
     if rows:
         manual.macro("SS", "Parameters in common")
         for name, text in rows.items():
-            manual.definition("\\fI" + name + "\\fP", sentence(capital(text)))
+            manual.definition("\\fI" + name + "\\fP", headers.sentence(text))
 
 
 def constants(manual, sections):
@@ -188,17 +187,19 @@ def constants(manual, sections):
     if not macros:
         return
     manual.macro("SS", "Constants")
-    text = ""
     for item in macros:
-        text = explained(item) or text  # one comment may stand above several
         value = item.code.split("/*")[0].split(None, 2)[2].strip().rstrip("u")
-        manual.definition(f"\\fB{item.name}\\fP ({escaped(value)})", text)
+        term = f"\\fB{item.name}\\fP ({escaped(value)})"
+        if explained(item):
+            manual.definition(term, explained(item))
+        else:  # it shares the comment above the one before
+            manual.lines[-1:-1] = [".TQ", term]
 
 
 def explained(item):
     """What a macro's comment says, the one at its line's end or the one above."""
     words = [item.trailing] if item.trailing else [b for b in item.comment.prose if isinstance(b, str)]
-    return sentence(capital(" ".join(words))) if words else ""
+    return headers.sentence(" ".join(words)) if words else ""
 
 
 def described(manual, item):
@@ -211,19 +212,25 @@ def described(manual, item):
         manual.paragraph()
         manual.text(item.comment.returns)
     for name, text in item.comment.params.items():
-        manual.definition("\\fI" + name + "\\fP", sentence(capital(text)))
+        manual.definition("\\fI" + name + "\\fP", headers.sentence(text))
     if item.comment.owner:
-        manual.definition("Owner", sentence(capital(item.comment.owner)))
+        manual.definition("Owner", headers.sentence(item.comment.owner))
 
 
 def write_codes(manual, codes):
     """In the order in which the comment has them, which may be that of the checks."""
     for code, text in codes:
         if code:
-            manual.definition("\\fB" + code + "\\fP", sentence(capital(text)))
+            manual.definition("\\fB" + code + "\\fP", headers.sentence(text))
         elif not text.startswith("Always"):
             manual.paragraph()
-            manual.text(sentence(text))
+            manual.text(headers.sentence(text))
+
+
+def handle_codes(manual):
+    manual.raw("\"The handle\" stands for two codes:")
+    manual.raw(".B AAA_ATTR_ERR_BAD_LIST\n(the handle is 0 or what it names is not a list) and")
+    manual.raw(".B AAA_ATTR_ERR_STALE_HANDLE\n(the handle names nothing, or a list that is gone).")
 
 
 def errors(manual, sections):
@@ -231,9 +238,9 @@ def errors(manual, sections):
     if not groups:
         return
     manual.macro("SH", "ERRORS")
-    manual.raw("\"The handle\" stands for two codes:")
-    manual.raw(".B AAA_ATTR_ERR_BAD_LIST\n(the handle is 0 or what it names is not a list) and")
-    manual.raw(".B AAA_ATTR_ERR_STALE_HANDLE\n(the handle names nothing, or a list that is gone).")
+    comments = [s.comment for s in sections] + [item.comment for _, item in groups]
+    if any("of the handle" in text for comment in comments for _, text in comment.codes):
+        handle_codes(manual)
     for section in sections:
         if section.comment.codes:
             manual.macro("SS", "All of " + section.title if len(sections) > 1 else "All functions")
@@ -263,7 +270,7 @@ def ownership(manual, sections):
     if owned:
         manual.macro("SH", "OWNERSHIP")
         for text in owned:
-            manual.text(sentence(capital(text)))
+            manual.text(headers.sentence(text))
 
 
 def example(manual, page, examples):
@@ -304,9 +311,8 @@ def family(page, header, known, version, examples):
     head(manual, page.name, names, page.brief, version, page.library)
     synopsis(manual, header, sections)
     manual.macro("SH", "DESCRIPTION")
-    # A header of several pages says on each what holds for all; that of the lists says it in attrmgr(3).
-    lead = header.comment.prose if not page.sections or header.name != "aaa_attr.h" else []
-    manual.prose(lead)
+    if headers.is_lead(header, page):
+        manual.prose(header.comment.prose)
     for section in sections:
         if section.comment.prose:
             if section.title and len(sections) > 1:
@@ -317,6 +323,7 @@ def family(page, header, known, version, examples):
                 described(manual, item)
     shared_params(manual, [s.comment for s in sections] + [header.comment], functions)
     constants(manual, sections)
+    tables(manual, sections)
     if functions:
         return_value(manual, functions)
         errors(manual, sections)
@@ -328,16 +335,6 @@ def family(page, header, known, version, examples):
     return manual, names
 
 
-def comment_of(path):
-    """The comment at the top of a header that is not read for declarations."""
-    lines = path.read_text().split("\n")
-    if lines[0].startswith("//"):
-        end = next(i for i, line in enumerate(lines) if not line.startswith("//"))
-        return headers.parse_comment([line[2:].removeprefix(" ") for line in lines[:end]], set())
-    end = next(i for i, line in enumerate(lines) if "*/" in line)
-    return headers.parse_comment(headers.strip_comment(lines[: end + 1]), set())
-
-
 def overview(include, read, known, version, examples):
     """attrmgr(3): what the library is, the conventions of all calls, and where to read on."""
     manual = Manual(known)
@@ -346,12 +343,12 @@ def overview(include, read, known, version, examples):
     manual.raw(".nf\n.B #include <attrmgr/attrmgr.h>\n.PP")
     manual.raw(bold("cc program.c $(pkg-config --cflags --libs attrmgr)") + "\n.fi")
     manual.macro("SH", "DESCRIPTION")
-    whole = comment_of(include / "attrmgr.h")
-    manual.text(capital(whole.prose[0].split(": ", 1)[1]))
+    whole = headers.opening_comment(include / "attrmgr.h")
+    manual.text(headers.sentence(whole.prose[0].split(": ", 1)[1]))
     manual.prose(whole.prose[1:])
     manual.macro("SS", "Families of functions")
     for page in pages.PAGES:
-        manual.definition(f".BR {page.name} (3)", sentence(capital(page.brief)))
+        manual.definition(f".BR {page.name} (3)", headers.sentence(page.brief))
     manual.definition(".BR attrmgr_names (3)", "A constant for every type and value.")
     manual.definition(".BR attrmgr_cpp (3)", "The C++ interface.")
     conventions = next(block for block in read["aaa_attr.h"].comment.prose if isinstance(block, list))
@@ -376,8 +373,8 @@ def in_words(name, path, brief, include_name, known, version, see):
     manual.macro("SH", "SYNOPSIS")
     manual.raw(f".B #include <attrmgr/{include_name}>")
     manual.macro("SH", "DESCRIPTION")
-    comment = comment_of(path)
-    manual.text(capital(comment.prose[0].split(": ", 1)[1]))
+    comment = headers.opening_comment(path)
+    manual.text(headers.sentence(comment.prose[0].split(": ", 1)[1]))
     manual.prose(comment.prose[1:])
     see_also(manual, ["attrmgr", *see])
     return manual
@@ -402,13 +399,15 @@ def main(version, *folders):
         manual.save(output / f"{page.name}.3")
         for name in names:
             (output / f"{name}.3").write_text(f".so man3/{page.name}.3\n")
+    in_pages = {(page.header, title) for page in pages.PAGES for title in page.sections or
+                [s.title for s in read[page.header].sections]}
+    left_out = {(h.name, s.title) for h in read.values() for s in h.sections} - in_pages
+    if left_out:
+        sys.exit(f"No page of docs/reference/pages.py has the sections {sorted(left_out)}")
     written = {path.stem for path in output.glob("*.3")}
     missing = {name for page in pages.PAGES for name in page.see} - written
     if missing:
         sys.exit("docs/reference/pages.py leads to pages that there are not: " + " ".join(sorted(missing)))
-    undone = known - written
-    if undone:
-        sys.exit("No page of docs/reference/pages.py has: " + " ".join(sorted(undone)))
 
 
 main(*sys.argv[1:])

@@ -15,22 +15,22 @@ AAA_BEGIN_DECLS
 #define AAA_ATTR_TYPE_COUNT 623 /* types are 0 to 622; 0 stands for no attribute */
 
 /* Value formats: how the value of a type is stored and how long it is. */
-#define AAA_ATTR_FMT_INVALID 0
-#define AAA_ATTR_FMT_STRING 1       /* text; a NUL is stored after it and not counted in lengths */
-#define AAA_ATTR_FMT_BINARY 2       /* any bytes */
-#define AAA_ATTR_FMT_ULONG 3        /* unsigned 32-bit number, host byte order */
-#define AAA_ATTR_FMT_ULONGLONG 4    /* a 64-bit quantity as the client wrote it */
-#define AAA_ATTR_FMT_GROUPED 5      /* the handle of a sub-list, 8 bytes */
-#define AAA_ATTR_FMT_ENUM 6         /* unsigned 32-bit value number, named by the type's value table */
-#define AAA_ATTR_FMT_IPV4 7         /* 4 bytes, network order */
-#define AAA_ATTR_FMT_IPV6 8         /* 16 bytes, network order */
-#define AAA_ATTR_FMT_ADDRESS 9      /* 4 or 16 bytes, network order */
-#define AAA_ATTR_FMT_STRING_ATTR 10 /* text; the stored NUL is counted in lengths */
-#define AAA_ATTR_FMT_UTC 11         /* signed 64-bit seconds since the Unix epoch, host byte order */
-#define AAA_ATTR_FMT_BOOLEAN 12     /* 1 byte */
-#define AAA_ATTR_FMT_OPAQUE 13      /* any bytes, never shown */
-#define AAA_ATTR_FMT_SPECIAL 14     /* any bytes, never shown */
-#define AAA_ATTR_FMT_IPX_NETWORK 15
+#define AAA_ATTR_FMT_INVALID 0            /* of a number that is no type */
+#define AAA_ATTR_FMT_STRING 1             /* text; a NUL is stored after it and not counted in lengths */
+#define AAA_ATTR_FMT_BINARY 2             /* any bytes */
+#define AAA_ATTR_FMT_ULONG 3              /* unsigned 32-bit number, host byte order */
+#define AAA_ATTR_FMT_ULONGLONG 4          /* a 64-bit quantity as the client wrote it */
+#define AAA_ATTR_FMT_GROUPED 5            /* the handle of a sub-list, 8 bytes */
+#define AAA_ATTR_FMT_ENUM 6               /* unsigned 32-bit value number, named by the type's value table */
+#define AAA_ATTR_FMT_IPV4 7               /* 4 bytes, network order */
+#define AAA_ATTR_FMT_IPV6 8               /* 16 bytes, network order */
+#define AAA_ATTR_FMT_ADDRESS 9            /* 4 or 16 bytes, network order */
+#define AAA_ATTR_FMT_STRING_ATTR 10       /* text; the stored NUL is counted in lengths */
+#define AAA_ATTR_FMT_UTC 11               /* signed 64-bit seconds since the Unix epoch, host byte order */
+#define AAA_ATTR_FMT_BOOLEAN 12           /* 1 byte */
+#define AAA_ATTR_FMT_OPAQUE 13            /* any bytes, never shown */
+#define AAA_ATTR_FMT_SPECIAL 14           /* any bytes, never shown */
+#define AAA_ATTR_FMT_IPX_NETWORK 15       /* any bytes; no type of the dictionary has it */
 #define AAA_ATTR_FMT_DIAMETER_IDENTITY 20 /* RFC 6733, section 4.3.1 */
 #define AAA_ATTR_FMT_IP_FILTER_RULE 21    /* RFC 6733, section 4.3.1 */
 #define AAA_ATTR_FMT_QOS_FILTER_RULE 22   /* RFC 4005, section 4.1 */

@@ -156,8 +156,8 @@ AAA_MUST_CHECK aaa_attr_cerrno aaa_attr_list_to_array(aaa_attr_list_handle list,
    address  the 16 bytes of an IPv6 address
    value    the AAA_IPV6_PREFIX_SIZE bytes of a prefix value */
 
-#define AAA_IPV6_ADDRESS_SIZE 16
-#define AAA_IPV6_PREFIX_SIZE 18 /* the prefix field is always 16 bytes here */
+#define AAA_IPV6_ADDRESS_SIZE 16 /* bytes of an address */
+#define AAA_IPV6_PREFIX_SIZE 18  /* bytes of a value; its prefix field is always 16 bytes here */
 
 /* Packs an address and a prefix length.
    prefix_length: in bits; its low 8 bits are stored, unchecked. */

@@ -99,18 +99,23 @@ AAA_ATTR_VALUE_TABLE(usage_monitoring_support);         /* 577 "Usage-Monitoring
 
 #undef AAA_ATTR_VALUE_TABLE
 
-/* Authorization bitmaps. Bit service * AAA_AUTHOR_PROTOCOLS + protocol (least significant bit of a byte first) tells
+/* ---- Authorization bitmaps ----
+
+   Bit service * AAA_AUTHOR_PROTOCOLS + protocol (least significant bit of a byte first) tells
    whether attributes of the type may be used with that service and protocol, numbered as in name_service and
    name_protocol. The n-th type, in number order, whose flags lack AAA_ATTR_TYPE_NO_AUTHOR has bitmap n. */
-#define AAA_AUTHOR_TYPES 101
-#define AAA_AUTHOR_SERVICES 26
-#define AAA_AUTHOR_PROTOCOLS 49
-#define AAA_AUTHOR_BITMAP_SIZE 160 /* bytes; the bits behind the last pair are 0 */
 
+#define AAA_AUTHOR_TYPES 101       /* types that have a bitmap */
+#define AAA_AUTHOR_SERVICES 26     /* services, numbered from 0 */
+#define AAA_AUTHOR_PROTOCOLS 49    /* protocols, numbered from 0 */
+#define AAA_AUTHOR_BITMAP_SIZE 160 /* bytes; the bits after the last pair are 0 */
+
+/* The bitmap of one type. */
 typedef struct aaa_author_bitmap {
   uint8_t bits[AAA_AUTHOR_BITMAP_SIZE];
 } aaa_author_bitmap;
 
+/* The bitmaps, in the order of the types' numbers. */
 extern AAA_API const aaa_author_bitmap aaa_author_flags[AAA_AUTHOR_TYPES];
 
 AAA_END_DECLS

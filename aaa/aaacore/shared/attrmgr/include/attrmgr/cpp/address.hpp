@@ -24,6 +24,7 @@ bool parse_address(int family, std::string_view text, Address &parsed) {
 
 }  // namespace detail
 
+// An IPv4 address, an IPv6 address, or none.
 class address {
  public:
   address() = default;  // none

@@ -95,6 +95,8 @@ struct reading<list_view> {
 
 }  // namespace detail
 
+// An attribute met on a walk: a view, passed by value.
+//
 // Functions that hand out a std::optional are templates here and in the other headers, with a parameter that nobody
 // gives: so a compiler makes the class for those who call them only.
 class attribute {

@@ -24,6 +24,7 @@ concept owns_bytes = std::same_as<typename Container::value_type, std::byte> &&
 
 }  // namespace detail
 
+// Bytes that own their memory: what an encoding hands out.
 class bytes {
  public:
   using value_type = std::byte;

@@ -8,6 +8,7 @@
 
 namespace attrmgr {
 
+// A list that another owns, to be changed. Small, passed by value; it must not outlive the list.
 class list_ref : public list_view {
  public:
   explicit list_ref(aaa_attr_list_handle handle) noexcept : list_view(handle) {}
@@ -18,6 +19,7 @@ class list_ref : public list_view {
   //
   // The value is what formats.hpp says for the type; it is copied, a list moved. On failure nothing has changed.
 
+  // Adds an attribute after all others. The client type is the producer's, 0 for none.
   template <typed_attribute Attribute>
   void add(Attribute type, detail::argument_of<Attribute> value) {
     detail::check(store<aaa_attr_add>(type, value, nullptr), "add", type);
@@ -211,6 +213,7 @@ class list_ref : public list_view {
   }
 };
 
+// A list that owns its attributes, and frees them at the end of its scope.
 class list : public list_ref {
  public:
   // An empty list.

@@ -9,6 +9,7 @@
 
 namespace attrmgr {
 
+// A list that another owns, to be read.
 class list_view {
  public:
   list_view() = default;  // of no list

@@ -6,6 +6,7 @@
 
 namespace attrmgr {
 
+// A place in a list or a flat buffer: one of the library's cursors, held by value.
 class iterator {
  public:
   using value_type = attribute;
