@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "support/blocks.h"
+#include "support/codes.h"
 #include "support/list_text.h"
 
 namespace {
@@ -54,36 +55,62 @@ TEST(CursorWalk, EndsAtTypeZeroAndGoesOnAndSeesWhatIsAddedBehindItsBlock) {
   aaa_cursor_free(cursor);
 }
 
-// What the readers say, with 99 where an out-parameter was left alone.
+// What a reader of a number gives, in hexadecimal, or the name of its code; such a call leaves its argument alone.
+template <class T, class Call>
+std::string number_or_code(Call call) {
+  constexpr T kUntouched = 99;
+  T number = kUntouched;
+  const aaa_attr_cerrno code = call(&number);
+  if (code != 0) return short_name(code) + (number != kUntouched ? " but writes" : "");
+  std::ostringstream out;
+  out << std::hex << number;
+  return out.str();
+}
+
+// What all readers say of the current attribute.
 std::string readings(const aaa_cursor *cursor) {
-  std::uint32_t length = 99, text_length = 99, number = 99, ulong_value = 99, offset = 99;
-  std::uint64_t wide = 99, handle = 99;
+  std::uint32_t length = 99, text_length = 99;
   const char *name = aaa_cursor_get_name(cursor), *text = aaa_cursor_get_string(cursor, &text_length);
   const void *value = aaa_cursor_get(cursor, &length);
   const aaa_attr_meta *meta = aaa_cursor_get_meta(cursor);
-  const std::string codes =
-      in_short(aaa_cursor_get_uint32_t(cursor, &number), aaa_cursor_get_uint64_t(cursor, &wide),
-               aaa_cursor_get_grouped_attr_handle(cursor, &handle), aaa_attr_get_ulong_val(cursor, &ulong_value),
-               aaa_cursor_get_offset_in_buffer(cursor, &offset));
+  const auto of = [cursor](auto reader) { return [cursor, reader](auto *out) { return reader(cursor, out); }; };
   std::ostringstream out;
-  out << (name ? name : "none") << ' ' << aaa_cursor_get_format(cursor) << ", " << aaa_cursor_get_length(cursor) << '/'
-      << length << (value ? ", " : " null, ") << (text ? text : "null") << ' ' << text_length << ", " << std::hex
-      << number << ' ' << wide << ' ' << handle << ' ' << ulong_value << ' ' << std::dec << offset << codes << ", "
-      << (meta ? meta->client : -1) << ' ' << aaa_cursor_get_tag(cursor) << ' ' << aaa_cursor_mandatory(cursor) << ' '
-      << aaa_cursor_get_producer_client_type(cursor) << ' ' << aaa_cursor_grouped(cursor) << ' '
-      << aaa_cursor_attr_is_class(cursor, 0x8) << aaa_cursor_attr_is_class(cursor, 0x2);
+  out << (name ? name : "none") << " format " << aaa_cursor_get_format(cursor) << " length "
+      << aaa_cursor_get_length(cursor) << '/' << length << (value ? "" : " null") << ", text " << (text ? text : "null")
+      << '/' << text_length << ", u32 " << number_or_code<std::uint32_t>(of(aaa_cursor_get_uint32_t)) << ", u64 "
+      << number_or_code<std::uint64_t>(of(aaa_cursor_get_uint64_t)) << ", group "
+      << number_or_code<std::uint64_t>(of(aaa_cursor_get_grouped_attr_handle)) << ", ulong "
+      << number_or_code<std::uint32_t>(of(aaa_attr_get_ulong_val)) << ", offset "
+      << number_or_code<std::uint32_t>(of(aaa_cursor_get_offset_in_buffer)) << ", meta client "
+      << (meta ? meta->client : -1) << " tag " << aaa_cursor_get_tag(cursor) << " mandatory "
+      << aaa_cursor_mandatory(cursor) << ", producer " << aaa_cursor_get_producer_client_type(cursor) << ", grouped "
+      << aaa_cursor_grouped(cursor) << ", class " << aaa_cursor_attr_is_class(cursor, 0x8)
+      << aaa_cursor_attr_is_class(cursor, 0x2);
   return out.str();
 }
 
 TEST(CursorReaders, AnswerForTheCurrentRecordOnly) {
-  const std::string none = "none 0, 0/99 null, null 99, 63 63 63 63 99 86 86 86 86 86, -1 0 0 0 0 00";
-  const std::string last = "force-local-chap 12, 1/1, null 99, 63 63 63 63 99 90 90 90 86 86, -1 0 0 0 0 00";
+  const std::string no_meta = "meta client -1 tag 0 mandatory 0";
+  const std::string none =
+      "none format 0 length 0/99 null, text null/99, u32 BAD_ARG, u64 BAD_ARG, group BAD_ARG, ulong BAD_ARG, offset "
+      "BAD_ARG, " +
+      no_meta + ", producer 0, grouped 0, class 00";
+  const std::string last =
+      "force-local-chap format 12 length 1/1, text null/99, u32 BAD_FORMAT, u64 BAD_FORMAT, group BAD_FORMAT, ulong "
+      "BAD_ARG, offset BAD_ARG, " +
+      no_meta + ", producer 0, grouped 0, class 00";
   const std::string positions[] = {
       none,  // before the first record
-      "addr 7, 4/4, null 99, 100007f 63 63 100007f 99 00 90 90 00 86, 11 9 1 23 0 11",
-      "username 1, 3/3, abc 3, 636261 63 63 636261 99 00 90 90 00 86, -1 0 0 127 0 01",
-      "username 1, 7/7, 1234567 7, 63 37363534333231 37363534333231 34333231 99 90 00 00 00 86, -1 0 0 0 0 01",
-      "Failed AVP 5, 8/8, null 99, 63 0 0 0 99 90 00 00 00 86, -1 0 0 0 1 00",
+      "addr format 7 length 4/4, text null/99, u32 100007f, u64 BAD_FORMAT, group BAD_FORMAT, ulong 100007f, offset "
+      "BAD_ARG, meta client 11 tag 9 mandatory 1, producer 23, grouped 0, class 11",
+      "username format 1 length 3/3, text abc/3, u32 636261, u64 BAD_FORMAT, group BAD_FORMAT, ulong 636261, offset "
+      "BAD_ARG, " +
+          no_meta + ", producer 127, grouped 0, class 01",
+      "username format 1 length 7/7, text 1234567/7, u32 BAD_FORMAT, u64 37363534333231, group 37363534333231, ulong "
+      "34333231, offset BAD_ARG, " +
+          no_meta + ", producer 0, grouped 0, class 01",
+      "Failed AVP format 5 length 8/8, text null/99, u32 BAD_FORMAT, u64 0, group 0, ulong 0, offset BAD_ARG, " +
+          no_meta + ", producer 0, grouped 1, class 00",
       last,
       last,  // the end: the cursor still stands on what it stepped over last
   };
@@ -100,9 +127,10 @@ TEST(CursorReaders, AnswerForTheCurrentRecordOnly) {
     EXPECT_EQ(readings(cursor), position);
     aaa_cursor_get_next(cursor);
   }
-  EXPECT_EQ(in_short(aaa_cursor_get_uint32_t(cursor, nullptr), aaa_cursor_get_uint64_t(cursor, nullptr),
-                     aaa_cursor_get_grouped_attr_handle(cursor, nullptr), aaa_attr_get_ulong_val(cursor, nullptr)),
-            " 86 86 86 86");
+  EXPECT_CODE(AAA_ATTR_ERR_BAD_ARG, aaa_cursor_get_uint32_t(cursor, nullptr));
+  EXPECT_CODE(AAA_ATTR_ERR_BAD_ARG, aaa_cursor_get_uint64_t(cursor, nullptr));
+  EXPECT_CODE(AAA_ATTR_ERR_BAD_ARG, aaa_cursor_get_grouped_attr_handle(cursor, nullptr));
+  EXPECT_CODE(AAA_ATTR_ERR_BAD_ARG, aaa_attr_get_ulong_val(cursor, nullptr));
   EXPECT_EQ(aaa_cursor_get(cursor, nullptr), nullptr);
   EXPECT_EQ(aaa_cursor_reset(cursor), 0u);
   EXPECT_EQ(readings(cursor), none);
@@ -116,10 +144,14 @@ TEST(CursorEdits, ChangeTheCurrentRecordOnly) {
   ASSERT_EQ(aaa_cursor_alloc(list, &cursor), 0u);
   aaa_cursor_remove(cursor);
   const auto stamp = aaa_cursor_set_producer_client_type;
-  EXPECT_EQ(in_short(stamp(cursor, 7), aaa_cursor_list_add_attr(copy, cursor)), " 86 86");
+  EXPECT_CODE(AAA_ATTR_ERR_BAD_ARG, stamp(cursor, 7));
+  EXPECT_CODE(AAA_ATTR_ERR_BAD_ARG, aaa_cursor_list_add_attr(copy, cursor));
   EXPECT_EQ(aaa_cursor_get_next(cursor), type_named('T'));
-  EXPECT_EQ(in_short(stamp(cursor, 0), stamp(cursor, 24), stamp(cursor, 128 + 7), stamp(cursor, 23)), " 86 86 86 00");
-  EXPECT_EQ(in_short(aaa_cursor_list_add_attr(0, cursor), aaa_cursor_list_add_attr(copy, cursor)), " 8a 00");
+  for (const std::uint32_t invalid : {0u, 24u, 128u + 7u})
+    EXPECT_CODE(AAA_ATTR_ERR_BAD_ARG, stamp(cursor, invalid)) << invalid;
+  EXPECT_CODE(0, stamp(cursor, 23));
+  EXPECT_CODE(AAA_ATTR_ERR_BAD_LIST, aaa_cursor_list_add_attr(0, cursor));
+  EXPECT_CODE(0, aaa_cursor_list_add_attr(copy, cursor));
   EXPECT_EQ(aaa_cursor_get_next(cursor), type_named('U'));
   aaa_cursor_remove(cursor);
   EXPECT_EQ(aaa_cursor_get_next(cursor), type_named('V')) << "the walk goes on from where it was";
@@ -139,35 +171,36 @@ TEST(CursorAllocation, OpensListsOnly) {
   std::string opened;  // before the first record, then on each
   do {
     aaa_cursor *sub_cursor = cursor;
-    opened += in_short(aaa_cursor_grouped_alloc(cursor, &sub_cursor));
+    opened += short_name(aaa_cursor_grouped_alloc(cursor, &sub_cursor)) + ' ';
     opened += sub_cursor != nullptr ? '{' + types_ahead(sub_cursor) + '}' : "";
     aaa_cursor_free(sub_cursor);
   } while (aaa_cursor_get_next(cursor) != 0);
-  EXPECT_EQ(opened, " 8e 00{197 6 } 86 8a 8c");
+  EXPECT_EQ(opened, "NOT_FOUND 0 {197 6 }BAD_ARG BAD_LIST STALE_HANDLE ");
   aaa_cursor_free(cursor);
   gone.put(0, 0xABCD);  // under a handle that names no list, it is freed all the same
 
   for (const bool filtered : {false, true}) {
     const auto code = filtered ? aaa_cursor_alloc_filtered(0, &cursor, 3, 7) : aaa_cursor_alloc(0, &cursor);
     ASSERT_NE(cursor, nullptr) << "handed out all the same";
-    EXPECT_EQ(in_short(code, aaa_cursor_reset(cursor)), " 8a 8a");
+    EXPECT_CODE(AAA_ATTR_ERR_BAD_LIST, code);
+    EXPECT_CODE(AAA_ATTR_ERR_BAD_LIST, aaa_cursor_reset(cursor));
     EXPECT_EQ(readings(cursor) + types_ahead(cursor), readings(nullptr));
     aaa_cursor_free(cursor);
   }
 }
 
-// What reading says of a type, with 99 where an out-parameter was left alone.
+// What reading says of a type.
 std::string found(aaa_attr_list_handle list, std::uint32_t type) {
-  std::uint32_t length = 99, text_length = 99, number = 99;
-  std::uint64_t wide = 99;
+  std::uint32_t length = 99, text_length = 99;
   const void *value = nullptr;
   const char *text = "99";
-  const std::string codes =
-      in_short(aaa_attr_get(list, type, &value, &length), aaa_attr_get_string(list, type, &text, &text_length),
-               aaa_attr_get_uint32_t(list, type, &number), aaa_attr_get_uint64_t(list, type, &wide));
-  std::ostringstream out;
-  out << length << ", " << text << ' ' << text_length << std::hex << ", " << number << ", " << wide << ':' << codes;
-  return out.str();
+  const aaa_attr_cerrno of_value = aaa_attr_get(list, type, &value, &length);
+  const aaa_attr_cerrno of_text = aaa_attr_get_string(list, type, &text, &text_length);
+  const auto of = [list, type](auto reader) { return [=](auto *out) { return reader(list, type, out); }; };
+  return "length " + (of_value == 0 ? std::to_string(length) : short_name(of_value)) + ", text " +
+         (of_text == 0 ? text + ('/' + std::to_string(text_length)) : short_name(of_text)) + ", u32 " +
+         number_or_code<std::uint32_t>(of(aaa_attr_get_uint32_t)) + ", u64 " +
+         number_or_code<std::uint64_t>(of(aaa_attr_get_uint64_t));
 }
 
 TEST(Find, NumbersAreReadByLengthAndTextsByFormat) {
@@ -175,17 +208,17 @@ TEST(Find, NumbersAreReadByLengthAndTextsByFormat) {
   list.text(type::kSecret, "xx");
   Block(list).put(Block(list).used() - 8 - 2u, 700);  // a type that only a buffer can bring
   list.number(0, 1).number(type::kUlong, 5);
-  const std::string none = "99, 99 99, 63, 63: 8e ", refused = "99, 99 99, 63, 63: 8a ";
+  const std::string no_text = "length NOT_FOUND, text BAD_ARG, u32 NOT_FOUND, u64 NOT_FOUND";
   const std::tuple<aaa_attr_list_handle, std::uint32_t, std::string> rows[] = {
-      {list, type::kString, "3, abc 3, 636261, 63: 00 00 00 86"},
-      {list, type::kBinary, "8, 99 99, 63, 3837363534333231: 00 86 86 00"},
-      {list, type_named('V'), none + "8e 8e 8e"},
-      {list, 700, "2, 99 99, 63, 63: 00 86 86 86"},
-      {list, 0, none + "86 8e 8e"},
-      {list, type::kUlong, none + "86 8e 8e"},  // a record of type 0 ends the walk before it
-      {list, 0x10000 + type::kString, none + "86 8e 8e"},
-      {0, type::kString, refused + "8a 8a 8a"},
-      {0, type::kUlong, refused + "86 8a 8a"},
+      {list, type::kString, "length 3, text abc/3, u32 636261, u64 BAD_ARG"},
+      {list, type::kBinary, "length 8, text BAD_ARG, u32 BAD_ARG, u64 3837363534333231"},
+      {list, type_named('V'), "length NOT_FOUND, text NOT_FOUND, u32 NOT_FOUND, u64 NOT_FOUND"},
+      {list, 700, "length 2, text BAD_ARG, u32 BAD_ARG, u64 BAD_ARG"},
+      {list, 0, no_text},
+      {list, type::kUlong, no_text},  // a record of type 0 ends the walk before it
+      {list, 0x10000 + type::kString, no_text},
+      {0, type::kString, "length BAD_LIST, text BAD_LIST, u32 BAD_LIST, u64 BAD_LIST"},
+      {0, type::kUlong, "length BAD_LIST, text BAD_ARG, u32 BAD_LIST, u64 BAD_LIST"},
   };
   for (const auto &[l, type, expected] : rows) EXPECT_EQ(found(l, type), expected) << "type " << type;
 }

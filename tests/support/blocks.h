@@ -44,13 +44,3 @@ inline std::string shape(aaa_attr_list_handle list) {
   }
   return text;
 }
-
-// Result codes in two hexadecimal digits each: 00, 86 BAD_ARG, 8a BAD_LIST, 8c STALE_HANDLE, 8e NOT_FOUND, 90
-// BAD_FORMAT.
-template <class... Codes>
-std::string in_short(Codes... codes) {
-  std::string text;
-  for (const aaa_attr_cerrno code : {codes...})
-    ((text += ' ') += "0123456789abcdef"[code >> 12 & 0xF]) += "0123456789abcdef"[code >> 8 & 0xF];
-  return text;
-}
