@@ -6,19 +6,14 @@
 
 #include <attrmgr/aaa_attr_dict.h>
 
+#include "dictionary/known_types.h"
 #include "dictionary/type_table.h"
 
 namespace attrmgr {
 namespace {
 
-constexpr std::uint32_t kLiTypes[] = {
-    288,  // md-ip-addr
-    289,  // md-ipv6-addr
-    290,  // md-port
-    291,  // md-dscp
-    292,  // li-action
-    293,  // intercept-id
-};
+constexpr std::uint32_t kLiTypes[] = {kTypeMdIpAddr, kTypeMdIpv6Addr, kTypeMdPort,
+                                      kTypeMdDscp,   kTypeLiAction,   kTypeInterceptId};
 
 std::atomic<std::uint32_t> debug_li{0};
 

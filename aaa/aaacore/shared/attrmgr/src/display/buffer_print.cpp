@@ -52,9 +52,9 @@ void print_list(const std::byte *first_block) {
   while (const RecordView record = cursor.next()) {
     if (!is_shown(record)) continue;
     print_attribute(record, ++number);
-    aaa_attr_list_handle sender_handle;
-    if (!nests_list(record, &sender_handle)) continue;
-    std::printf("\nGrouped attribute: %" PRIu32, static_cast<std::uint32_t>(sender_handle));
+    if (!holds_handle(record)) continue;
+    // The sender's handle: something to tell it by, and never followed.
+    std::printf("\nGrouped attribute: %" PRIu32, static_cast<std::uint32_t>(owned_list(record)));
     if (const std::byte *list = nested.take(cursor.block())) print_list(list);
   }
 }

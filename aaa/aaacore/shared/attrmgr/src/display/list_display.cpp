@@ -43,8 +43,8 @@ void display(aaa_attr_list_handle list, const Output &output, RenderMode mode) {
   for (const RecordView record : Attributes(head)) {
     if (!is_shown(record)) continue;
     hand_attribute(output, record, ++number, mode);
-    aaa_attr_list_handle sub_list;
-    if (!nests_list(record, &sub_list)) continue;
+    if (!holds_handle(record)) continue;
+    const aaa_attr_list_handle sub_list = owned_list(record);
     hand_list(output, "Grouped Attribute: ", sub_list, brief);
     display(sub_list, output, RenderMode::kList);
   }

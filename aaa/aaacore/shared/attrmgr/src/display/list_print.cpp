@@ -30,8 +30,8 @@ void aaa_attr_list_print(aaa_attr_list_handle list) noexcept {
   for (const RecordView record : Attributes(head)) {
     if (!is_shown(record)) continue;
     print_attribute(record, ++number);
-    aaa_attr_list_handle sub_list;
-    if (!nests_list(record, &sub_list)) continue;
+    if (!holds_handle(record)) continue;
+    const aaa_attr_list_handle sub_list = owned_list(record);
     std::fprintf(stdout, "Grouped attribute: %" PRIx64 "\n", sub_list);
     aaa_attr_list_print(sub_list);
     std::fprintf(stdout, "End of group list: %" PRIx64 "\n", sub_list);

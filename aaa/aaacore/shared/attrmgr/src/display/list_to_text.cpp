@@ -48,8 +48,8 @@ void write_list(aaa_attr_list_handle list, Space &space) {
       put_line<kLineSize>(text, [record](TextWriter &line) { aaa_attr_to_string(record, line, RenderMode::kList); });
       text.put("\n");
     });
-    aaa_attr_list_handle sub_list;
-    if (!nests_list(record, &sub_list) || !space.left()) continue;
+    if (!holds_handle(record) || !space.left()) continue;
+    const aaa_attr_list_handle sub_list = owned_list(record);
     space.write([sub_list](TextWriter &text) { text.put("\nGrouped attribute: ").put_hex(sub_list).put("\n"); });
     write_list(sub_list, space);
   }

@@ -10,14 +10,12 @@
 
 #include "aaa_attr/marshal/ipv6_prefix.h"
 #include "aaa_attr/store/attribute.h"
+#include "dictionary/known_types.h"
 #include "dictionary/type_table.h"
 
 namespace attrmgr {
 namespace {
 
-constexpr std::uint32_t kTypePrefix = 224;           // "prefix"
-constexpr std::uint32_t kTypeDhcpClientId = 258;     // "dhcp-client-id"
-constexpr std::uint32_t kTypeDelegatedPrefix = 336;  // "delegated-prefix"
 constexpr std::uint32_t kHexBytesMax = 128;
 
 constexpr std::size_t kNameWidth = 15;

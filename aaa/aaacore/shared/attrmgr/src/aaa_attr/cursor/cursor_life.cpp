@@ -58,8 +58,8 @@ aaa_attr_cerrno aaa_cursor_grouped_alloc(const aaa_cursor *cursor, aaa_cursor **
   *sub_cursor = nullptr;
   const RecordView record = current_record(cursor);
   if (!record) return AAA_ATTR_ERR_NOT_FOUND;
-  if (!is_grouped(record) || record.length() != kHandleSize || in_buffer(*cursor)) return AAA_ATTR_ERR_BAD_ARG;
-  PooledCursor taken(sub_list_of(record));
+  if (!holds_handle(record) || in_buffer(*cursor)) return AAA_ATTR_ERR_BAD_ARG;
+  PooledCursor taken(owned_list(record));
   if (!taken.error()) *sub_cursor = taken.release();
   return taken.error().code;
 }

@@ -5,6 +5,7 @@
 
 #include "aaa_attr/result/error.h"
 #include "aaa_attr/store/attribute.h"
+#include "aaa_attr/store/sub_list.h"
 #include "aaa_attr/walk/cursor_step.h"
 #include "dictionary/type_table.h"
 
@@ -94,7 +95,10 @@ const char *aaa_cursor_get_name(const aaa_cursor *cursor) noexcept {
   return record ? type_name(record.type()) : nullptr;
 }
 
-int aaa_cursor_grouped(const aaa_cursor *cursor) noexcept { return format_at(cursor) == AAA_ATTR_FMT_GROUPED; }
+int aaa_cursor_grouped(const aaa_cursor *cursor) noexcept {
+  const RecordView record = current_record(cursor);
+  return record && is_grouped(record);
+}
 
 int aaa_cursor_attr_is_class(const aaa_cursor *cursor, std::uint32_t mask) noexcept {
   const TypeRow *row = row_at(cursor);

@@ -71,7 +71,7 @@ class Taken {
 Error replace_grouped(ListEnd &list, RecordView found, NewAttribute attribute, const NewRecord &record, bool in_place,
                       TypeIndex *index) {
   const Taken taken(&attribute);
-  const aaa_attr_list_handle owned = sub_list_of(found);
+  const aaa_attr_list_handle owned = owned_list(found);
   if (!name_one_list(owned, taken.handle())) free_list(owned);
   if (!in_place) return supersede(list, found, attribute, record, index);
   overwrite(found, attribute);
@@ -101,11 +101,10 @@ Error add_or_replace(ListEnd &list, NewAttribute attribute, OnOtherMeta on_other
   const bool same = meta_agrees(found, attribute);
   const bool alongside = !same && on_other_meta == OnOtherMeta::kAddAlongside;
   const bool in_place = same && reported_length(found) == attribute.length;
-  if (record.format == AAA_ATTR_FMT_GROUPED) {
+  if (record.is_grouped()) {
     if (!alongside) return replace_grouped(list, found, attribute, record, in_place, index);
     // Two records would own the sub-list.
-    if (name_one_list(sub_list_of(found), load<aaa_attr_list_handle>(static_cast<const std::byte *>(attribute.value))))
-      return AAA_ATTR_ERR_BAD_ARG;
+    if (name_one_list(owned_list(found), list_in(attribute))) return AAA_ATTR_ERR_BAD_ARG;
   }
   if (alongside) return append_noted(list, attribute, record, index);
   if (!in_place) return supersede(list, found, attribute, record, index);

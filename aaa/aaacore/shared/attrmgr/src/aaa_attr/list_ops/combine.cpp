@@ -15,6 +15,7 @@
 #include "aaa_attr/store/handle_check.h"
 #include "aaa_attr/store/sub_list.h"
 #include "aaa_attr/walk/list_walk.h"
+#include "dictionary/known_types.h"
 
 namespace {
 
@@ -40,9 +41,8 @@ struct Rules {
 };
 
 bool replaces(Write write, std::uint32_t type) {
-  constexpr std::uint32_t kQosPolicyIn = 277;
-  constexpr std::uint32_t kQosPolicyOut = 278;
-  return write == Write::kReplace || (write == Write::kDoubleDip && type != kQosPolicyIn && type != kQosPolicyOut);
+  const bool accumulates = type == kTypeQosPolicyIn || type == kTypeQosPolicyOut;
+  return write == Write::kReplace || (write == Write::kDoubleDip && !accumulates);
 }
 
 // A combination of two lists under way.
@@ -77,7 +77,7 @@ Error take_record(Combination &combination, RecordView record) {
   if (!is_grouped(record)) return write_attribute(combination, attribute);
 
   aaa_attr_list_handle sub_copy;
-  if (const Error error = copy_list(sub_list_of(record), combination.owner, &sub_copy)) return error;
+  if (const Error error = copy_list(owned_list(record), combination.owner, &sub_copy)) return error;
   attribute.value = &sub_copy;
   const Error error = write_attribute(combination, attribute);
   if (error) free_list(sub_copy);

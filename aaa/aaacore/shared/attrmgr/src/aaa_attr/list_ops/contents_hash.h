@@ -54,7 +54,7 @@ class Contents {
   }
 
   std::uint64_t of_record(RecordView record) const {
-    if (is_grouped(record)) return hasher_.of_number(of_list(sub_list_of(record)) ^ record.type());
+    if (is_grouped(record)) return hasher_.of_number(of_list(owned_list(record)) ^ record.type());
     return hasher_.of_value_and_meta(record);
   }
 

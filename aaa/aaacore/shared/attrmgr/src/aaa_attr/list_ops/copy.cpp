@@ -46,10 +46,10 @@ Error copy_blocks(BlockView source, BlockView copy, std::uint8_t *flags) {
 // blocks become 0, so that releasing the copy leaves the source's sub-lists alone.
 Error copy_sub_lists(BlockView block, const void *owner, Error error) {
   for (const RecordView record : BlockRecords(block)) {
-    if (!is_grouped(record) || record.length() != kHandleSize) continue;
+    if (!holds_handle(record)) continue;
     aaa_attr_list_handle sub_copy = 0;
-    if (!error) error = copy_list(sub_list_of(record), owner, &sub_copy);
-    store(record.value(), sub_copy);
+    if (!error) error = copy_list(owned_list(record), owner, &sub_copy);
+    set_owned_list(record, sub_copy);
   }
   return error;
 }

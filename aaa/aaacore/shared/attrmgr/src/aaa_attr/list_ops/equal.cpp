@@ -49,7 +49,7 @@ bool same_in_order(BlockView list1, BlockView list2) {
   Attributes::Iterator at2(list2);
   for (; *at1 && *at2; ++at1, ++at2) {
     if ((*at1).type() != (*at2).type()) return false;
-    const bool same = is_grouped(*at1) ? same_sub_lists_in_order(sub_list_of(*at1), sub_list_of(*at2))
+    const bool same = is_grouped(*at1) ? same_sub_lists_in_order(owned_list(*at1), owned_list(*at2))
                                        : same_value_and_meta(*at1, *at2);
     if (!same) return false;
   }
@@ -101,13 +101,13 @@ class Groups {
   bool include(RecordView record) const { return is_grouped(record); }
   std::uint64_t hash(RecordView record) const { return contents_.of_record(record); }
   bool match(RecordView a, RecordView b) const {
-    return a.type() == b.type() && nested_equal(sub_list_of(a), sub_list_of(b), windows_);
+    return a.type() == b.type() && nested_equal(owned_list(a), owned_list(b), windows_);
   }
 
   // Of equal sub-lists the one with fewer repetitions is compared with those to come.
   void met_again(WindowEntry &known, RecordView equal) const {
-    const Resolved known_list = resolve(sub_list_of(known.record));
-    const Resolved other_list = resolve(sub_list_of(equal));
+    const Resolved known_list = resolve(owned_list(known.record));
+    const Resolved other_list = resolve(owned_list(equal));
     if (known_list.error || other_list.error) return;
     if (count_records(other_list.head) < count_records(known_list.head)) known.record = equal;
   }

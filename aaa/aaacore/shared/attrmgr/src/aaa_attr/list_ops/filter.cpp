@@ -47,7 +47,7 @@ Error append_kept(BlockView from, BlockView to) {
 // The new list owns the sub-lists of the kept records now.
 void give_up_sub_lists(BlockView from) {
   for (const RecordView record : Attributes(from))
-    if (sub_list_of(record) != 0) store(record.value(), aaa_attr_list_handle{0});
+    if (holds_handle(record)) set_owned_list(record, 0);
 }
 
 }  // namespace

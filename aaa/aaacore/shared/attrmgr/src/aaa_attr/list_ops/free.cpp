@@ -32,7 +32,7 @@ constexpr std::uint16_t kQueuedMagic = 0;
 // Chains the sub-lists of the block's live records after tail and withdraws their handles. Returns the new tail.
 BlockView queue_sub_lists(BlockView block, BlockView tail) {
   for (const RecordView record : BlockRecords(block)) {
-    const aaa_attr_list_handle sub_list = sub_list_of(record);
+    const aaa_attr_list_handle sub_list = owned_list(record);
     if (sub_list == 0) continue;
     BlockView head = head_to_free(sub_list);
     // A block without the head flag belongs to a list that has taken it in.

@@ -13,7 +13,7 @@
 using namespace attrmgr;
 
 void attrmgr::remove_with_sub_list(BlockView head, RecordView record) {
-  free_list(sub_list_of(record));
+  free_list(owned_list(record));
   remove_record(head, record);
 }
 

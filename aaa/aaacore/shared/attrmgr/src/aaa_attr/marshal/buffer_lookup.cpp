@@ -12,10 +12,10 @@ using namespace attrmgr;
 
 // The first record of the type in the outer list or a nested one, removed records included. Null when there is none,
 // or when a record passes its block before it.
-RecordView find_in_buffer(const std::byte *bytes, std::uint32_t type) {
+ConstRecordView find_in_buffer(const std::byte *bytes, std::uint32_t type) {
   TrustedReader reader(bytes);
   while (reader.next()) {
-    RecordScan scan = reader.records();
+    ConstRecordScan scan = reader.records();
     while (scan.next())
       if (scan.record().type() == type) return scan.record();
     if (scan.overrun()) break;
@@ -30,7 +30,7 @@ aaa_attr_cerrno aaa_attr_get_from_buffer(const void *buffer, std::uint32_t type,
   const auto *bytes = static_cast<const std::byte *>(buffer);
   if (bytes == nullptr || format == nullptr || value == nullptr || size == nullptr) return AAA_ATTR_ERR_BAD_ARG;
   if (*size == 0 || bytes[0] != std::byte{AAA_MARSHAL_BUFFER}) return AAA_ATTR_ERR_BAD_ARG;
-  const RecordView found = find_in_buffer(bytes + kMarkerSize, type);
+  const ConstRecordView found = find_in_buffer(bytes + kMarkerSize, type);
   if (!found) return AAA_ATTR_ERR_NO_MEMORY;
   if (*size < found.length()) {
     *size = 0;

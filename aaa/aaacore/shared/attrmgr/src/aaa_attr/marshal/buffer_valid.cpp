@@ -1,6 +1,4 @@
 // Telling what a flat buffer is: fit to be read in place or not, of the foreign layout; and taking addresses out of it.
-#include <cstring>
-
 #include <attrmgr/aaa_attr_marshal.h>
 
 #include "aaa_attr/result/error.h"
@@ -22,8 +20,7 @@ Error check_buffer(const void *buffer, std::uint32_t length) {
 void scrub_block(BlockView block) {
   block.set_own_word(0);
   store(block.bytes() + kNextAt, std::uint64_t{block.next() ? 1u : 0u});
-  for (RecordScan scan(block); scan.next();)
-    if (is_grouped(scan.record())) std::memset(scan.record().value(), 0, scan.record().length());
+  for (RecordScan scan(block); scan.next();) forget_handle(scan.record());
 }
 
 }  // namespace
@@ -36,13 +33,14 @@ int is_aaa_attr_buffer_valid(const void *buffer, std::uint32_t length, aaa_attr_
 
 aaa_attr_cerrno aaa_attr_buffer_scrub(void *buffer, std::uint32_t length) noexcept {
   if (const Error error = check_buffer(buffer, length)) return error.code;
-  ValidatingReader reader(static_cast<std::byte *>(buffer) + kMarkerSize, length - kMarkerSize);
-  while (reader.next()) scrub_block(reader.block());
+  auto *const list = static_cast<std::byte *>(buffer) + kMarkerSize;
+  ValidatingReader reader(list, length - kMarkerSize);
+  while (reader.next()) scrub_block(writable(reader.block(), list));
   return 0;
 }
 
 int aaa_attr_buffer_is_alien(const void *buffer, std::uint32_t length) noexcept {
   const auto *bytes = static_cast<const std::byte *>(buffer);
   if (bytes == nullptr || length < kMarkerSize + kHeaderSize || bytes[0] != std::byte{AAA_MARSHAL_BUFFER}) return 0;
-  return BlockView(const_cast<std::byte *>(bytes + kMarkerSize)).foreign();
+  return ConstBlockView(bytes + kMarkerSize).foreign();
 }

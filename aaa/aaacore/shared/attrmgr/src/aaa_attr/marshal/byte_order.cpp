@@ -44,9 +44,11 @@ Error translate(std::byte *list, std::uint64_t length) {
   if (!TranslatableReader<From>(list, length).read_to_end()) return AAA_ATTR_ERR_BAD_BUFFER;
   FlatReader<From, FlatRules::kWhole> reader(list, length);
   while (reader.next()) {
+    const BasicBlock<From> block = writable(reader.block(), list);
     // The scan is a step ahead of the record that it hands out, and the header is rewritten last.
-    for (BasicRecordScan<From> scan = reader.records(); scan.next();) translate_record<From, To>(scan.record());
-    translate_header<From, To>(reader.block());
+    for (BasicRecordScan<From> scan(block, reader.header_size()); scan.next();)
+      translate_record<From, To>(scan.record());
+    translate_header<From, To>(block);
   }
   return 0;
 }

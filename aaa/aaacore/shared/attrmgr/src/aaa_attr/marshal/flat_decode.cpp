@@ -48,7 +48,7 @@ class FlatDecoder {
     List made = outer_;
     if (reader_.depth() > 0) {
       if (const Error error = create_checked_list(owner_, &made)) return error;
-      hand_over(made.handle, levels_[reader_.depth() - 1].value.records);
+      give_sub_list(made.handle, levels_[reader_.depth() - 1].value.records);
     }
     levels_[reader_.depth()].write({made.head, made.head, {}});
     *to = made.head;
@@ -56,18 +56,18 @@ class FlatDecoder {
   }
 
   // Gives a sub-list to the next live Grouped record; the reader counted them.
-  static void hand_over(aaa_attr_list_handle sub_list, RecordScan &records) {
+  static void give_sub_list(aaa_attr_list_handle sub_list, RecordScan &records) {
     while (records.next()) {
       const RecordView record = records.record();
       if (record.deleted() || !is_grouped(record)) continue;
-      store(record.value(), sub_list);
+      set_owned_list(record, sub_list);
       return;
     }
   }
 
   // Copies the block; what of the header is this process's own stays. The sender's handles never get further than here.
   void copy_block(BlockView to) {
-    const BlockView from = reader_.block();
+    const ConstBlockView from = reader_.block();
     const std::size_t size = to.size();
     const std::size_t record_bytes = from.used() - reader_.header_size();
     const std::size_t used = kHeaderSize + record_bytes;
@@ -81,10 +81,6 @@ class FlatDecoder {
     to.set_free_bytes(static_cast<std::uint16_t>(size - used));
     if (!reader_.has_grouped()) return;
     for (RecordScan scan(to); scan.next();) forget_handle(scan.record());
-  }
-
-  static void forget_handle(RecordView record) {
-    if (is_grouped(record)) std::memset(record.value(), 0, record.length());
   }
 
   FlatReader<HostForm, FlatRules::kDecodable> reader_;

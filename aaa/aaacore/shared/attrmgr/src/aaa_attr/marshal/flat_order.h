@@ -20,8 +20,8 @@ Error for_each_flat_block(aaa_attr_list_handle list, Visit &visit) {
     if (!block.has(kBlockHoldsGrouped)) continue;
     for (const RecordView record : BlockRecords(block)) {
       if (!is_grouped(record)) continue;
-      if (record.length() != kHandleSize) return AAA_ATTR_ERR_BAD_FORMAT;
-      if (const Error error = for_each_flat_block(sub_list_of(record), visit)) return error;
+      if (!holds_handle(record)) return AAA_ATTR_ERR_BAD_FORMAT;
+      if (const Error error = for_each_flat_block(owned_list(record), visit)) return error;
     }
   }
   return 0;

@@ -26,7 +26,7 @@ Error add_size(aaa_attr_list_handle list, std::uint64_t *total) {
     *total += kTlvRecordSizeMin + (record.has_meta() ? kMetaSize : 0);
     if (!is_grouped(record)) {
       *total += reported_length(record);
-    } else if (const Error error = add_size(sub_list_of(record), total)) {
+    } else if (const Error error = add_size(owned_list(record), total)) {
       return error;
     }
   }
@@ -51,7 +51,7 @@ Error write_record(RecordView record, ByteWriter &writer) {
   store(header + kTlvTypeAt, std::uint32_t{record.type()});
   store(header + kTlvMetaLengthAt, meta_length);
   if (!writer.put(record.meta_bytes(), meta_length)) return AAA_ATTR_ERR_BAD_FORMAT;
-  if (is_grouped(record)) return write_body(sub_list_of(record), writer);
+  if (is_grouped(record)) return write_body(owned_list(record), writer);
   const std::uint32_t length = reported_length(record);
   std::byte *const content = writer.take(std::uint64_t{kTlvLengthSize} + length);
   if (content == nullptr) return AAA_ATTR_ERR_BAD_FORMAT;

@@ -20,7 +20,7 @@ class TranslatableReader {
   // Reads all blocks, and tells whether none breaks the rules.
   bool read_to_end() {
     while (reader_.next())
-      for (BasicRecordScan<Form> scan = reader_.records(); scan.next();)
+      for (auto scan = reader_.records(); scan.next();)
         if (const aaa_attr_rule broken = length_rule(scan.record())) {
           fault_.note(broken, scan.record().bytes() + kRecordLengthAt);
           return false;
@@ -34,7 +34,7 @@ class TranslatableReader {
 
  private:
   // The rule that the value breaks by its length.
-  static aaa_attr_rule length_rule(BasicRecord<Form> record) {
+  static aaa_attr_rule length_rule(BasicRecord<Form, const std::byte> record) {
     constexpr std::uint32_t kNumberSize = 4;
     const std::uint32_t format = format_of(record.type());
     if (is_number(format)) return record.length() == kNumberSize ? AAA_ATTR_RULE_NONE : AAA_ATTR_RULE_NUMBER_LENGTH;

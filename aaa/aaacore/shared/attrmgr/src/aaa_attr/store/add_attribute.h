@@ -5,13 +5,13 @@
 
 #include "aaa_attr/store/append.h"
 #include "aaa_attr/store/handle_check.h"
+#include "aaa_attr/store/sub_list.h"
 
 namespace attrmgr {
 
 // Whether the attribute would make a list its own sub-list. Such a list could be neither walked to its end nor copied.
 inline bool adds_to_itself(BlockView head, const NewAttribute &attribute, const NewRecord &record) {
-  return record.format == AAA_ATTR_FMT_GROUPED &&
-         names_list_at(load<aaa_attr_list_handle>(static_cast<const std::byte *>(attribute.value)), head);
+  return record.is_grouped() && names_list_at(list_in(attribute), head);
 }
 
 inline Error add_attribute(BlockView head, const NewAttribute &attribute) {

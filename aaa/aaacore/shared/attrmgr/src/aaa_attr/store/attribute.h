@@ -23,12 +23,12 @@ inline std::uint32_t reported_length(std::uint32_t stored_length, std::uint32_t 
   return format == AAA_ATTR_FMT_STRING && stored_length > 0 ? stored_length - 1 : stored_length;
 }
 
-inline std::uint32_t reported_length(RecordView record) {
+inline std::uint32_t reported_length(ConstRecordView record) {
   return reported_length(record.length(), format_of(record.type()));
 }
 
 // The attribute that a record holds, as adding it to another list takes it.
-inline NewAttribute attribute_of(RecordView record) {
+inline NewAttribute attribute_of(ConstRecordView record) {
   return {record.type(), record.value(), reported_length(record), record.has_meta() ? record.meta_bytes() : nullptr,
           record.client_type()};
 }

@@ -14,6 +14,8 @@
 namespace attrmgr {
 
 struct NewRecord {
+  bool is_grouped() const { return format == AAA_ATTR_FMT_GROUPED; }
+
   std::uint32_t format;
   std::uint32_t nul;   // bytes of it after the value: 1 or 0
   std::uint64_t size;  // the whole record

@@ -3,12 +3,14 @@
 // flat_reader.h).
 //
 // A view is a template over the form its fields are in: HostForm in lists and in buffers as they are made, NetworkForm
-// (network_form.h) in translated buffers.
+// (network_form.h) in translated buffers; and over whether the bytes may be written. A writable view is taken wherever
+// a constant one is asked for.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <type_traits>
 
 #include "aaa_attr/store/layout.h"
 
@@ -44,10 +46,10 @@ struct HostForm {
   static void put_meta_flags(std::byte *at, std::uint16_t flags) { store(at, flags); }
 };
 
-template <class Form>
+template <class Form, class Byte = std::byte>
 class BasicMeta {
  public:
-  explicit BasicMeta(std::byte *at) : at_(at) {}
+  explicit BasicMeta(Byte *at) : at_(at) {}
 
   std::uint8_t service() const { return load<std::uint8_t>(at_ + kMetaServiceAt); }
   std::uint8_t protocol() const { return load<std::uint8_t>(at_ + kMetaProtocolAt); }
@@ -60,18 +62,21 @@ class BasicMeta {
   void set_client(std::uint16_t client) { Form::put(at_ + kMetaClientAt, client); }
 
  private:
-  std::byte *at_;
+  Byte *at_;
 };
 
-template <class Form>
+template <class Form, class Byte = std::byte>
 class BasicRecord {
  public:
   BasicRecord() = default;
-  explicit BasicRecord(std::byte *at) : at_(at) {}
+  explicit BasicRecord(Byte *at) : at_(at) {}
+  operator BasicRecord<Form, const std::byte>() const requires(!std::is_const_v<Byte>) {
+    return BasicRecord<Form, const std::byte>(at_);
+  }
 
   explicit operator bool() const { return at_ != nullptr; }
   friend bool operator==(BasicRecord, BasicRecord) = default;
-  std::byte *bytes() const { return at_; }
+  Byte *bytes() const { return at_; }
 
   std::uint16_t type() const { return Form::template get<std::uint16_t>(at_ + kRecordTypeAt); }
   std::uint16_t flags() const { return Form::record_flags(at_ + kRecordFlagsAt); }
@@ -81,10 +86,10 @@ class BasicRecord {
   std::uint32_t client_type() const { return (flags() & kClientTypeMask) >> kClientTypeShift; }
 
   // Only when has_meta().
-  BasicMeta<Form> meta() const { return BasicMeta<Form>(meta_bytes()); }
-  std::byte *meta_bytes() const { return at_ + kRecordHeaderSize; }
+  BasicMeta<Form, Byte> meta() const { return BasicMeta<Form, Byte>(meta_bytes()); }
+  Byte *meta_bytes() const { return at_ + kRecordHeaderSize; }
   std::size_t value_at() const { return kRecordHeaderSize + (has_meta() ? kMetaSize : 0); }
-  std::byte *value() const { return at_ + value_at(); }
+  Byte *value() const { return at_ + value_at(); }
   // Header, meta and value. 64 bits wide: the length may be any 32-bit number in a hostile buffer.
   std::uint64_t size() const { return std::uint64_t{value_at()} + length(); }
 
@@ -105,18 +110,21 @@ class BasicRecord {
   }
 
  private:
-  std::byte *at_ = nullptr;
+  Byte *at_ = nullptr;
 };
 
-template <class Form>
+template <class Form, class Byte = std::byte>
 class BasicBlock {
  public:
   BasicBlock() = default;
-  explicit BasicBlock(std::byte *at) : at_(at) {}
+  explicit BasicBlock(Byte *at) : at_(at) {}
+  operator BasicBlock<Form, const std::byte>() const requires(!std::is_const_v<Byte>) {
+    return BasicBlock<Form, const std::byte>(at_);
+  }
 
   explicit operator bool() const { return at_ != nullptr; }
   friend bool operator==(BasicBlock, BasicBlock) = default;
-  std::byte *bytes() const { return at_; }
+  Byte *bytes() const { return at_; }
 
   std::uint16_t magic() const { return Form::template get<std::uint16_t>(at_ + kBlockMagicAt); }
   std::uint8_t version() const { return load<std::uint8_t>(at_ + kBlockVersionAt); }
@@ -140,8 +148,8 @@ class BasicBlock {
   void set_used(std::uint16_t bytes) { Form::put(at_ + kUsedBytesAt, bytes); }
 
   // The rest is for blocks with the 24-byte header.
-  std::byte *records() const { return at_ + kHeaderSize; }
-  std::byte *end() const { return at_ + used(); }
+  Byte *records() const { return at_ + kHeaderSize; }
+  Byte *end() const { return at_ + used(); }
   std::size_t size() const { return std::size_t{free_bytes()} + used(); }
 
   BasicBlock next() const { return BasicBlock(load<std::byte *>(at_ + kNextAt)); }
@@ -150,10 +158,19 @@ class BasicBlock {
   void set_own_word(std::uint32_t word) { store(at_ + kReservedAt, word); }
 
  private:
-  std::byte *at_ = nullptr;
+  Byte *at_ = nullptr;
 };
 
 using MetaView = BasicMeta<HostForm>;
 using RecordView = BasicRecord<HostForm>;
 using BlockView = BasicBlock<HostForm>;
+using ConstRecordView = BasicRecord<HostForm, const std::byte>;
+using ConstBlockView = BasicBlock<HostForm, const std::byte>;
+
+// What a reader found in a buffer, for whoever may write to the buffer.
+template <class Form>
+BasicBlock<Form> writable(BasicBlock<Form, const std::byte> found, std::byte *buffer) {
+  return BasicBlock<Form>(buffer + (found.bytes() - buffer));
+}
+
 }  // namespace attrmgr

@@ -26,7 +26,7 @@ BlockView next_block_in_buffer(BlockView block) {
   if (!block.next() || block.used() < kHeaderSize) return {};
   if (!block.has(kBlockHoldsGrouped)) return BlockView(block.end());
   TrustedReader nested(block.end(), kUnknownLength, live_grouped_records(block));
-  return nested.read_to_end() ? BlockView(nested.behind()) : BlockView();
+  return nested.read_to_end() ? BlockView(block.end() + (nested.behind() - block.end())) : BlockView();
 }
 
 bool enter_next_block(aaa_cursor *cursor) {

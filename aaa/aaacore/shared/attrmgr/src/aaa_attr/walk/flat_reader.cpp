@@ -39,7 +39,7 @@ bool FlatReader<Form, kRules, Fault>::begins_here() {
     if (!starts_list_) return refuse(AAA_ATTR_RULE_COUNTED_BLOCK, at_);
     return refuse(depth_ == 0 ? AAA_ATTR_RULE_FIRST_BLOCK : AAA_ATTR_RULE_OWNED_LIST, at_);
   }
-  block_ = BasicBlock<Form>(at_);
+  block_ = Block(at_);
   if (asks(FlatRules::kWhole) && block_.magic() != kBlockMagic) return refuse_field(AAA_ATTR_RULE_MAGIC, kBlockMagicAt);
   return true;
 }
@@ -125,7 +125,7 @@ void FlatReader<Form, kRules, Fault>::leave_block() {
 
 // 1 where a stored text does not end in NUL, else 0.
 template <class Form, FlatRules kRules, class Fault>
-std::uint32_t FlatReader<Form, kRules, Fault>::lacks_nul(BasicRecord<Form> record, const std::byte *end) {
+std::uint32_t FlatReader<Form, kRules, Fault>::lacks_nul(Record record, const std::byte *end) {
   return static_cast<std::uint32_t>(end[-1] != std::byte{0}) | static_cast<std::uint32_t>(record.length() == 0);
 }
 
@@ -136,9 +136,9 @@ typename FlatReader<Form, kRules, Fault>::Findings FlatReader<Form, kRules, Faul
   constexpr bool kChecksValues = asks(FlatRules::kDecodable);
   Findings found{};
   std::uint32_t broken = 0;
-  BasicRecordScan<Form> scan = records();
+  Scan scan = records();
   while (scan.next()) {
-    const BasicRecord<Form> record = scan.record();
+    const Record record = scan.record();
     const std::uint8_t traits = traits_of(record.type());
     if (record.deleted()) [[unlikely]] {
       found.any_removed = true;
@@ -164,16 +164,16 @@ typename FlatReader<Form, kRules, Fault>::Findings FlatReader<Form, kRules, Faul
 template <class Form, FlatRules kRules, class Fault>
 bool FlatReader<Form, kRules, Fault>::refuse_records() {
   if constexpr (!Fault::kNames) return false;
-  BasicRecordScan<Form> scan = records();
+  Scan scan = records();
   while (scan.next())
     if (!holds_value(scan.record(), scan.behind())) return false;
-  if (scan.overrun()) return refuse_cut_record(BasicRecord<Form>(block_.bytes() + (scan.behind() - block_.bytes())));
+  if (scan.overrun()) return refuse_cut_record(Record(block_.bytes() + (scan.behind() - block_.bytes())));
   return refuse_field(AAA_ATTR_RULE_RECORD_COUNT, kRecordCountAt);
 }
 
 // The record passes the used bytes: which of its fields is it?
 template <class Form, FlatRules kRules, class Fault>
-bool FlatReader<Form, kRules, Fault>::refuse_cut_record(BasicRecord<Form> record) {
+bool FlatReader<Form, kRules, Fault>::refuse_cut_record(Record record) {
   const std::size_t left = static_cast<std::size_t>(block_.end() - record.bytes());
   if (left < kRecordHeaderSize) return refuse(AAA_ATTR_RULE_RECORD_HEADER, record.bytes());
   if (left < record.value_at()) return refuse(AAA_ATTR_RULE_RECORD_META, record.bytes() + kRecordFlagsAt);
@@ -182,7 +182,7 @@ bool FlatReader<Form, kRules, Fault>::refuse_cut_record(BasicRecord<Form> record
 
 // What readers rely on in the value of a live record.
 template <class Form, FlatRules kRules, class Fault>
-bool FlatReader<Form, kRules, Fault>::holds_value(BasicRecord<Form> record, const std::byte *end) {
+bool FlatReader<Form, kRules, Fault>::holds_value(Record record, const std::byte *end) {
   if (!asks(FlatRules::kDecodable) || record.deleted()) return true;
   const std::uint8_t traits = traits_of(record.type());
   if ((traits & kOwnsSubList) != 0 && record.length() != kHandleSize)

@@ -31,10 +31,13 @@ inline constexpr std::uint64_t kUnknownLength = ~std::uint64_t{0};
 template <class Form, FlatRules kRules, class Fault = Unnamed>
 class FlatReader {
  public:
+  using Block = BasicBlock<Form, const std::byte>;
+  using Record = BasicRecord<Form, const std::byte>;
+  using Scan = BasicRecordScan<Form, const std::byte>;
+
   // Reads num_lists lists that begin at bytes and lie within length bytes.
-  explicit FlatReader(const void *bytes, std::uint64_t length = kUnknownLength, std::uint16_t num_lists = 1)
-      // Views are mutable, but a reader only reads: who writes has a buffer of its own to pass.
-      : at_(const_cast<std::byte *>(static_cast<const std::byte *>(bytes))), remaining_(length) {
+  explicit FlatReader(const std::byte *bytes, std::uint64_t length = kUnknownLength, std::uint16_t num_lists = 1)
+      : at_(bytes), remaining_(length) {
     levels_[0] = {0, false, num_lists};
   }
 
@@ -53,12 +56,12 @@ class FlatReader {
   // Otherwise, for Named: the rule that was broken.
   const Fault &fault() const { return fault_; }
 
-  BasicBlock<Form> block() const { return block_; }
+  Block block() const { return block_; }
   // As long as the block is not rewritten.
   std::size_t header_size() const {
     return kRules == FlatRules::kWhole || kRules == FlatRules::kDecodable ? block_.header_size() : kHeaderSize;
   }
-  BasicRecordScan<Form> records() const { return BasicRecordScan<Form>(block_, header_size()); }
+  Scan records() const { return Scan(block_, header_size()); }
   bool starts_list() const { return starts_list_; }
   // From kWhole on: whether the block has Grouped records, be they removed, may hold a secret, and what it means to the
   // list that takes it in, in bits of kListBits.
@@ -68,7 +71,7 @@ class FlatReader {
   unsigned depth() const { return depth_ - 1; }  // 0 for the outer list
   // Of the list that the block which breaks the rules would be in.
   unsigned fault_depth() const { return starts_list_ && levels_[depth_].lists_left > 0 ? depth_ : depth_ - 1; }
-  std::byte *behind() const { return at_; }  // the byte after the blocks read so far
+  const std::byte *behind() const { return at_; }  // the byte after the blocks read so far
 
  private:
   struct Level {
@@ -100,17 +103,17 @@ class FlatReader {
 
   bool look_for_block();
   [[gnu::always_inline]] inline void leave_block();
-  static std::uint32_t lacks_nul(BasicRecord<Form> record, const std::byte *end);
+  static std::uint32_t lacks_nul(Record record, const std::byte *end);
   bool refuse(aaa_attr_rule rule, const std::byte *at);
   bool refuse_field(aaa_attr_rule rule, std::size_t field) { return refuse(rule, block_.bytes() + field); }
   bool refuse_records();
-  bool refuse_cut_record(BasicRecord<Form> record);
-  bool holds_value(BasicRecord<Form> record, const std::byte *end);
+  bool refuse_cut_record(Record record);
+  bool holds_value(Record record, const std::byte *end);
   Findings look_over() const;
 
-  std::byte *at_;
+  const std::byte *at_;
   std::uint64_t remaining_;
-  BasicBlock<Form> block_;
+  Block block_;
   bool starts_list_ = false;
   bool complete_ = false;
   bool damaged_ = false;  // a trusted block's records pass its end: nothing after it can be found

@@ -6,20 +6,19 @@
 
 namespace attrmgr {
 
-template <class Form>
+template <class Form, class Byte = std::byte>
 class BasicRecordScan {
  public:
   BasicRecordScan() = default;
-  explicit BasicRecordScan(BasicBlock<Form> block, std::size_t header_size = kHeaderSize)
+  explicit BasicRecordScan(BasicBlock<Form, Byte> block, std::size_t header_size = kHeaderSize)
       : BasicRecordScan(block.bytes() + header_size, block.bytes() + block.used(), block.record_count()) {}
   // A block whose used bytes end in its header has no records.
-  BasicRecordScan(std::byte *at, std::byte *end, std::uint16_t left)
-      : at_(at), end_(end < at ? at : end), left_(left) {}
+  BasicRecordScan(Byte *at, Byte *end, std::uint16_t left) : at_(at), end_(end < at ? at : end), left_(left) {}
 
   // Goes to the next record, removed ones included. False when none is left or the next would pass the used bytes.
   bool next() {
     if (left_ == 0 || remaining() < kRecordHeaderSize) return false;
-    const BasicRecord<Form> candidate(at_);
+    const BasicRecord<Form, Byte> candidate(at_);
     const std::uint64_t size = candidate.size_in_walk();
     if (size > remaining()) return false;
     record_ = candidate;
@@ -35,7 +34,7 @@ class BasicRecordScan {
     return false;
   }
 
-  BasicRecord<Form> record() const { return record_; }
+  BasicRecord<Form, Byte> record() const { return record_; }
   const std::byte *behind() const { return at_; }  // the byte after the record
 
   // After next() gave false: the records were as many as counted and filled the used bytes exactly.
@@ -46,12 +45,13 @@ class BasicRecordScan {
  private:
   std::size_t remaining() const { return static_cast<std::size_t>(end_ - at_); }
 
-  std::byte *at_ = nullptr;
-  std::byte *end_ = nullptr;
-  BasicRecord<Form> record_;
+  Byte *at_ = nullptr;
+  Byte *end_ = nullptr;
+  BasicRecord<Form, Byte> record_;
   std::uint16_t left_ = 0;
 };
 
 using RecordScan = BasicRecordScan<HostForm>;
+using ConstRecordScan = BasicRecordScan<HostForm, const std::byte>;
 
 }  // namespace attrmgr
