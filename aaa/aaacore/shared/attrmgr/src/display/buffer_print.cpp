@@ -9,9 +9,8 @@
 #include "display/render.h"
 #include "display/shown.h"
 
+namespace attrmgr {
 namespace {
-
-using namespace attrmgr;
 
 void print_attribute(RecordView record, int number) {
   TextLine<kLineSize> line;
@@ -60,6 +59,9 @@ void print_list(const std::byte *first_block) {
 }
 
 }  // namespace
+}  // namespace attrmgr
+
+using namespace attrmgr;
 
 void aaa_attr_list_buffer_print(const void *buffer) noexcept {
   if (buffer != nullptr) print_list(static_cast<const std::byte *>(buffer) + kMarkerSize);

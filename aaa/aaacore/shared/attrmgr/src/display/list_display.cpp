@@ -4,9 +4,8 @@
 #include "display/render.h"
 #include "display/shown.h"
 
+namespace attrmgr {
 namespace {
-
-using namespace attrmgr;
 
 struct Output {
   aaa_attr_output_fn function;
@@ -51,6 +50,9 @@ void display(aaa_attr_list_handle list, const Output &output, RenderMode mode) {
 }
 
 }  // namespace
+}  // namespace attrmgr
+
+using namespace attrmgr;
 
 void aaa_attr_list_display(aaa_attr_list_handle list, aaa_attr_output_fn output, std::uint64_t context) {
   if (output != nullptr) display(list, {output, context}, RenderMode::kList);

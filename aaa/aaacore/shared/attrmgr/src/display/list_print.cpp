@@ -7,9 +7,8 @@
 #include "display/render.h"
 #include "display/shown.h"
 
+namespace attrmgr {
 namespace {
-
-using namespace attrmgr;
 
 void print_attribute(RecordView record, int number) {
   TextLine<kLineSize> line;
@@ -18,6 +17,9 @@ void print_attribute(RecordView record, int number) {
 }
 
 }  // namespace
+}  // namespace attrmgr
+
+using namespace attrmgr;
 
 void aaa_attr_list_print(aaa_attr_list_handle list) noexcept {
   const auto [head, error] = resolve(list);

@@ -6,9 +6,8 @@
 #include "display/render.h"
 #include "display/shown.h"
 
+namespace attrmgr {
 namespace {
-
-using namespace attrmgr;
 
 struct Extreme {
   RecordView record;
@@ -44,6 +43,9 @@ struct Summary {
 };
 
 }  // namespace
+}  // namespace attrmgr
+
+using namespace attrmgr;
 
 void aaa_display_summ_attr_list_fn(aaa_attr_list_handle list, std::uint32_t, aaa_attr_output_fn output,
                                    std::uint64_t context) {

@@ -6,9 +6,8 @@
 #include "display/render.h"
 #include "display/shown.h"
 
+namespace attrmgr {
 namespace {
-
-using namespace attrmgr;
 
 // The part of the caller's buffer that is still free.
 class Space {
@@ -56,6 +55,9 @@ void write_list(aaa_attr_list_handle list, Space &space) {
 }
 
 }  // namespace
+}  // namespace attrmgr
+
+using namespace attrmgr;
 
 void aaa_attr_list_print_to_output_buffer(aaa_attr_list_handle list, char *buffer, std::int32_t size) noexcept {
   if (buffer == nullptr || size < 1) return;

@@ -50,7 +50,9 @@ void return_cursor(aaa_cursor *cursor) {
 
 }  // namespace attrmgr
 
+using namespace attrmgr;
+
 void aaa_base_destroy_chunk_cursor() noexcept {
-  chunk_pool *gone = attrmgr::pool().exchange(nullptr);
+  chunk_pool *gone = pool().exchange(nullptr);
   if (gone != nullptr) chunk_destroy(gone);
 }

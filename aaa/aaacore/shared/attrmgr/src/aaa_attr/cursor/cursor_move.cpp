@@ -3,9 +3,8 @@
 
 #include "aaa_attr/walk/cursor_step.h"
 
+namespace attrmgr {
 namespace {
-
-using namespace attrmgr;
 
 std::uint32_t next_type(aaa_cursor *cursor) {
   const RecordView record = step(cursor);
@@ -13,6 +12,9 @@ std::uint32_t next_type(aaa_cursor *cursor) {
 }
 
 }  // namespace
+}  // namespace attrmgr
+
+using namespace attrmgr;
 
 std::uint32_t aaa_cursor_get_next(aaa_cursor *cursor) noexcept { return cursor != nullptr ? next_type(cursor) : 0; }
 

@@ -9,9 +9,8 @@
 #include "aaa_attr/walk/cursor_step.h"
 #include "dictionary/type_table.h"
 
+namespace attrmgr {
 namespace {
-
-using namespace attrmgr;
 
 // A number of exactly this many stored bytes.
 template <class T>
@@ -40,6 +39,9 @@ const TypeRow *row_at(const aaa_cursor *cursor) {
 }
 
 }  // namespace
+}  // namespace attrmgr
+
+using namespace attrmgr;
 
 const void *aaa_cursor_get(const aaa_cursor *cursor, std::uint32_t *length) noexcept {
   return read_value(current_record(cursor), length);

@@ -5,9 +5,8 @@
 #include "aaa_attr/store/add_attribute.h"
 #include "aaa_attr/store/list_blocks.h"
 
+namespace attrmgr {
 namespace {
-
-using namespace attrmgr;
 
 // Whatever it is, and whatever is wrong with it. Gives the code itself, in a form in which add() can end with the call.
 [[gnu::noinline]] aaa_attr_cerrno add_any(aaa_attr_list_handle list, std::uint32_t type, const void *value,
@@ -42,6 +41,9 @@ Error add_sub_list(aaa_attr_list_handle parent, aaa_attr_list_handle sub_list, s
 }
 
 }  // namespace
+}  // namespace attrmgr
+
+using namespace attrmgr;
 
 aaa_attr_cerrno aaa_attr_add(aaa_attr_list_handle list, std::uint32_t type, const void *value, std::uint32_t length,
                              const aaa_attr_meta *meta) noexcept {

@@ -4,9 +4,8 @@
 #include "aaa_attr/cursor/pooled_cursor.h"
 #include "aaa_attr/store/client_types.h"
 
+namespace attrmgr {
 namespace {
-
-using namespace attrmgr;
 
 Error stamp(aaa_attr_list_handle list, std::uint32_t client_type, bool keep_valid) {
   PooledCursor cursor(list);
@@ -20,6 +19,9 @@ Error stamp(aaa_attr_list_handle list, std::uint32_t client_type, bool keep_vali
 }
 
 }  // namespace
+}  // namespace attrmgr
+
+using namespace attrmgr;
 
 aaa_attr_cerrno aaa_attr_list_set_producer_client_type(aaa_attr_list_handle list, std::uint32_t client_type) noexcept {
   return stamp(list, client_type, false).code;

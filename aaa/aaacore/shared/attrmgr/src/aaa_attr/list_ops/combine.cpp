@@ -17,9 +17,8 @@
 #include "aaa_attr/walk/list_walk.h"
 #include "dictionary/known_types.h"
 
+namespace attrmgr {
 namespace {
-
-using namespace attrmgr;
 
 // How the source's attributes are written.
 enum class Write {
@@ -129,6 +128,9 @@ Error remove_replaced(aaa_attr_list_handle destination, aaa_attr_list_handle sou
 }
 
 }  // namespace
+}  // namespace attrmgr
+
+using namespace attrmgr;
 
 aaa_attr_cerrno aaa_attr_list_append_list(aaa_attr_list_handle destination, aaa_attr_list_handle source) noexcept {
   return combine(destination, source, {Write::kAppend, ClientType::kKeep}, ATTRMGR_CALLER).code;

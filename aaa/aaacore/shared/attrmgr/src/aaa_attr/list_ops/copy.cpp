@@ -80,6 +80,8 @@ Error copy_list(aaa_attr_list_handle source, const void *owner, aaa_attr_list_ha
 
 }  // namespace attrmgr
 
+using namespace attrmgr;
+
 aaa_attr_cerrno aaa_attr_list_copy(aaa_attr_list_handle source, aaa_attr_list_handle *copy) noexcept {
-  return copy != nullptr ? attrmgr::copy_list(source, ATTRMGR_CALLER, copy).code : AAA_ATTR_ERR_BAD_ARG;
+  return copy != nullptr ? copy_list(source, ATTRMGR_CALLER, copy).code : AAA_ATTR_ERR_BAD_ARG;
 }

@@ -10,9 +10,8 @@
 #include "aaa_attr/store/sub_list.h"
 #include "aaa_attr/walk/list_walk.h"
 
+namespace attrmgr {
 namespace {
-
-using namespace attrmgr;
 
 // The types that a caller wants kept.
 class Kept {
@@ -51,6 +50,9 @@ void give_up_sub_lists(BlockView from) {
 }
 
 }  // namespace
+}  // namespace attrmgr
+
+using namespace attrmgr;
 
 aaa_attr_cerrno aaa_attr_filter_on_type(aaa_attr_list_handle *list, const std::uint32_t *types,
                                         std::uint32_t count) noexcept {

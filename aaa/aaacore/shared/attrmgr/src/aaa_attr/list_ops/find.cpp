@@ -6,9 +6,8 @@
 #include "aaa_attr/store/attribute.h"
 #include "aaa_attr/store/handle_check.h"
 
+namespace attrmgr {
 namespace {
-
-using namespace attrmgr;
 
 Error find(aaa_attr_list_handle list, std::uint32_t type, std::uint32_t n, RecordView *found) {
   const auto [head, error] = resolve(list);
@@ -37,6 +36,9 @@ Error get_number(aaa_attr_list_handle list, std::uint32_t type, T *value) {
 }
 
 }  // namespace
+}  // namespace attrmgr
+
+using namespace attrmgr;
 
 int aaa_attr_is_present(aaa_attr_list_handle list, std::uint32_t type) noexcept {
   RecordView found;

@@ -84,4 +84,6 @@ void free_without_sub_lists(aaa_attr_list_handle list, BlockView head) {
 
 }  // namespace attrmgr
 
-void aaa_attr_list_free(aaa_attr_list_handle list) noexcept { attrmgr::free_list(list); }
+using namespace attrmgr;
+
+void aaa_attr_list_free(aaa_attr_list_handle list) noexcept { free_list(list); }

@@ -10,12 +10,16 @@
 #include "aaa_attr/store/list_blocks.h"
 #include "aaa_attr/store/sub_list.h"
 
-using namespace attrmgr;
+namespace attrmgr {
 
-void attrmgr::remove_with_sub_list(BlockView head, RecordView record) {
+void remove_with_sub_list(BlockView head, RecordView record) {
   free_list(owned_list(record));
   remove_record(head, record);
 }
+
+}  // namespace attrmgr
+
+using namespace attrmgr;
 
 aaa_attr_cerrno aaa_attr_remove(aaa_attr_list_handle list, std::uint32_t type) noexcept {
   const auto [head, error] = resolve(list);

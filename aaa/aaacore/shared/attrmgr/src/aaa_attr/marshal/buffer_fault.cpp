@@ -73,8 +73,10 @@ Error find_fault(const std::byte *buffer, std::uint32_t length, aaa_attr_reader 
 
 }  // namespace attrmgr
 
+using namespace attrmgr;
+
 aaa_attr_cerrno aaa_attr_buffer_fault(const void *buffer, std::uint32_t length, aaa_attr_reader reader,
                                       aaa_attr_fault *fault) noexcept {
   if (fault == nullptr) return AAA_ATTR_ERR_BAD_ARG;
-  return attrmgr::find_fault(static_cast<const std::byte *>(buffer), length, reader, fault).code;
+  return find_fault(static_cast<const std::byte *>(buffer), length, reader, fault).code;
 }

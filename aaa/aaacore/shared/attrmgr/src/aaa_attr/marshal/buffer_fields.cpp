@@ -9,9 +9,8 @@
 #include "aaa_attr/store/network_form.h"
 #include "aaa_attr/walk/flat_reader.h"
 
+namespace attrmgr {
 namespace {
-
-using namespace attrmgr;
 
 // Tells of fields, one after the other. None reaches over the end of what contains it.
 class Fields {
@@ -194,6 +193,9 @@ void take_body(Fields &fields, aaa_attr_reader reader, int marker, std::uint64_t
 }
 
 }  // namespace
+}  // namespace attrmgr
+
+using namespace attrmgr;
 
 aaa_attr_cerrno aaa_attr_buffer_fields(const void *buffer, std::uint32_t length, aaa_attr_reader reader,
                                        aaa_attr_field_callback callback, void *context, aaa_attr_fault *fault) {

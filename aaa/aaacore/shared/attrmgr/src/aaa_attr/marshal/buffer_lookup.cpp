@@ -6,9 +6,8 @@
 #include "aaa_attr/walk/flat_reader.h"
 #include "dictionary/type_table.h"
 
+namespace attrmgr {
 namespace {
-
-using namespace attrmgr;
 
 // The first record of the type in the outer list or a nested one, removed records included. Null when there is none,
 // or when a record passes its block before it.
@@ -24,6 +23,9 @@ ConstRecordView find_in_buffer(const std::byte *bytes, std::uint32_t type) {
 }
 
 }  // namespace
+}  // namespace attrmgr
+
+using namespace attrmgr;
 
 aaa_attr_cerrno aaa_attr_get_from_buffer(const void *buffer, std::uint32_t type, std::uint32_t *format, void *value,
                                          std::uint32_t *size) noexcept {

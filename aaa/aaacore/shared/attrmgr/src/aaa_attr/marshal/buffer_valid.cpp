@@ -5,9 +5,8 @@
 #include "aaa_attr/store/sub_list.h"
 #include "aaa_attr/walk/flat_reader.h"
 
+namespace attrmgr {
 namespace {
-
-using namespace attrmgr;
 
 using ValidatingReader = FlatReader<HostForm, FlatRules::kValid>;
 
@@ -24,6 +23,9 @@ void scrub_block(BlockView block) {
 }
 
 }  // namespace
+}  // namespace attrmgr
+
+using namespace attrmgr;
 
 int is_aaa_attr_buffer_valid(const void *buffer, std::uint32_t length, aaa_attr_cerrno *code) noexcept {
   if (code == nullptr) return 0;

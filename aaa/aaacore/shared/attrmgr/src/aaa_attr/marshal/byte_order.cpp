@@ -7,9 +7,8 @@
 #include "aaa_attr/store/network_form.h"
 #include "dictionary/type_table.h"
 
+namespace attrmgr {
 namespace {
-
-using namespace attrmgr;
 
 template <class From, class To>
 void translate_meta(BasicMeta<From> from, BasicMeta<To> to) {
@@ -65,6 +64,9 @@ Error translate_buffer(char *buffer, std::uint64_t length, cdm_endian_tran_type 
 }
 
 }  // namespace
+}  // namespace attrmgr
+
+using namespace attrmgr;
 
 aaa_attr_cerrno aaa_attrs_buffer_tran(char *buffer, cdm_endian_tran_type direction) noexcept {
   return translate_buffer(buffer, kUnknownLength, direction).code;

@@ -6,9 +6,8 @@
 #include "aaa_attr/marshal/tlv_decode.h"
 #include "aaa_attr/store/list_blocks.h"
 
+namespace attrmgr {
 namespace {
-
-using namespace attrmgr;
 
 Error decode(const std::byte *buffer, std::uint32_t length, const List &list, const void *owner) {
   const std::byte *const content = buffer + kMarkerSize;
@@ -25,6 +24,9 @@ Error decode(const std::byte *buffer, std::uint32_t length, const List &list, co
 }
 
 }  // namespace
+}  // namespace attrmgr
+
+using namespace attrmgr;
 
 aaa_attr_cerrno aaa_attr_buffer_to_list(const void *buffer, std::uint32_t length, aaa_attr_list_handle *list) noexcept {
   if (buffer == nullptr || length == 0 || list == nullptr) return AAA_ATTR_ERR_BAD_ARG;

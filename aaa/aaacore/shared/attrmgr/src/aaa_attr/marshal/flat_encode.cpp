@@ -10,9 +10,8 @@
 #include "aaa_attr/marshal/flat_order.h"
 #include "aaa_attr/store/unwritten.h"
 
+namespace attrmgr {
 namespace {
-
-using namespace attrmgr;
 
 // The blocks of a list with its sub-lists in the order in which they lie in the buffer, and how long they are together.
 class FlatBlocks {
@@ -86,6 +85,9 @@ Error encode(aaa_attr_list_handle list, void *buffer, std::uint32_t *size) {
 }
 
 }  // namespace
+}  // namespace attrmgr
+
+using namespace attrmgr;
 
 aaa_attr_cerrno aaa_attr_list_buffer_len(aaa_attr_list_handle list, std::uint32_t *size) noexcept {
   return size != nullptr ? measure(list, size).code : AAA_ATTR_ERR_BAD_ARG;

@@ -8,9 +8,8 @@
 
 static_assert(sizeof(aaa_attr_array_entry) == 16);
 
+namespace attrmgr {
 namespace {
-
-using namespace attrmgr;
 
 // The byte in front of the blocks; the entries outlast the call.
 constexpr std::byte kMarker{AAA_MARSHAL_BUFFER};
@@ -40,6 +39,9 @@ Error fill(aaa_attr_list_handle list, aaa_attr_array_entry *entries, std::uint32
 }
 
 }  // namespace
+}  // namespace attrmgr
+
+using namespace attrmgr;
 
 aaa_attr_cerrno aaa_attr_list_to_array(aaa_attr_list_handle list, aaa_attr_array_entry **array,
                                        std::uint32_t *count) noexcept {

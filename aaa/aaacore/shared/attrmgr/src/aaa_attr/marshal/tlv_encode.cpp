@@ -11,9 +11,8 @@
 #include "aaa_attr/store/sub_list.h"
 #include "aaa_attr/walk/list_walk.h"
 
+namespace attrmgr {
 namespace {
-
-using namespace attrmgr;
 
 constexpr std::uint32_t kBufferOverhead = kMarkerSize + kTlvTotalSize;
 constexpr std::uint64_t kRecordsMax = std::numeric_limits<std::uint32_t>::max() - kBufferOverhead;
@@ -92,6 +91,9 @@ Error encode(aaa_attr_list_handle list, void *buffer, std::uint32_t *size) {
 }
 
 }  // namespace
+}  // namespace attrmgr
+
+using namespace attrmgr;
 
 aaa_attr_cerrno aaa_attr_list_tlv_buffer_len(aaa_attr_list_handle list, std::uint32_t *size) noexcept {
   return size != nullptr ? measure(list, size).code : AAA_ATTR_ERR_BAD_ARG;

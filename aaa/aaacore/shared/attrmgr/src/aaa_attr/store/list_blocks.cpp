@@ -9,8 +9,6 @@
 #include "aaa_attr/store/handle_check.h"
 #include "platform/handle_table.h"
 
-const std::uint16_t aaa_attr_chunk_size = attrmgr::kBlockSize;
-
 namespace attrmgr {
 namespace {
 
@@ -83,3 +81,5 @@ void free_block(BlockView block) {
 }
 
 }  // namespace attrmgr
+
+const std::uint16_t aaa_attr_chunk_size = attrmgr::kBlockSize;
