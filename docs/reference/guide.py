@@ -25,7 +25,7 @@ def filled(match, examples):
             sys.exit(f"a block names no source of its text:\n{match[0]}")
         return match[0]
     path = examples / match["file"]
-    lines = regions.region(path, match["region"]) if match["region"] else path.read_text().rstrip("\n").split("\n")
+    lines = regions.lines(path, match["region"])
     mark = match[0][: match[0].index("```")]
     return mark + "\n".join([f"```{LANGUAGES[path.suffix]}"] + lines + ["```"]) + "\n"
 

@@ -52,6 +52,13 @@ class Manual:
             self.lines.append(self.guarded(self.styled(sentence)))
 
     def styled(self, text):
+        """Words between `...` are code."""
+        parts = text.split("`")
+        parts[::2] = [self.named(part) for part in parts[::2]]
+        parts[1::2] = ["\\fB" + escaped(part) + "\\fP" for part in parts[1::2]]
+        return "".join(parts)
+
+    def named(self, text):
         def style(match):
             word = match[0]
             if word.startswith("*"):
@@ -276,11 +283,11 @@ def ownership(manual, sections):
 def example(manual, page, examples):
     if not page.example:
         return
-    name, region = page.example.split(":")
+    name, _, region = page.example.partition(":")
     manual.macro("SH", "EXAMPLES")
     manual.raw("Out of")
     manual.raw(f".IR examples/guide/{name} ,")
-    code = regions.region(examples / name, region)
+    code = regions.lines(examples / name, region)
     ends = " must() ends the program where a call fails." if any("must(" in line for line in code) else ""
     manual.text("which the tests compile and run." + ends)
     manual.macro("PP")
@@ -366,16 +373,22 @@ def overview(include, read, known, version, examples):
     return manual
 
 
-def in_words(name, path, brief, include_name, known, version, see):
-    """A page of a header's opening comment alone."""
+def in_words(name, path, brief, known, version, see, pieces=(), example_of=None):
+    """A page of a header's opening comment alone, and of those of its pieces."""
     manual = Manual(known)
     head(manual, name, [], brief, version)
     manual.macro("SH", "SYNOPSIS")
-    manual.raw(f".B #include <attrmgr/{include_name}>")
+    manual.raw(f".B #include <attrmgr/{path.name}>")
     manual.macro("SH", "DESCRIPTION")
     comment = headers.opening_comment(path)
     manual.text(headers.sentence(comment.prose[0].split(": ", 1)[1]))
     manual.prose(comment.prose[1:])
+    for piece in pieces:
+        prose = headers.opening_comment(piece).prose
+        manual.macro("SS", f"<attrmgr/{piece.relative_to(path.parent)}>")
+        manual.prose([headers.sentence(prose[0].split(": ", 1)[1]), *prose[1:]])
+    if example_of:
+        example(manual, *example_of)
     see_also(manual, ["attrmgr", *see])
     return manual
 
@@ -390,10 +403,11 @@ def main(version, *folders):
         read |= headers.read_all(folder)
     known = {f.name for header in read.values() for f in header.functions()}
     overview(include, read, known, version, examples).save(output / "attrmgr.3")
-    in_words("attrmgr_names", include / "aaa_attr_names.h", "a constant for every attribute type and value",
-             "aaa_attr_names.h", known, version, ["attrmgr_dictionary", "attrmgr_add"]).save(output / "attrmgr_names.3")
-    in_words("attrmgr_cpp", include / "attrmgr.hpp", "the C++ interface", "attrmgr.hpp", known, version,
-             ["attrmgr_types"]).save(output / "attrmgr_cpp.3")
+    in_words("attrmgr_names", include / "aaa_attr_names.h", "a constant for every attribute type and value", known,
+             version, ["attrmgr_dictionary", "attrmgr_add"]).save(output / "attrmgr_names.3")
+    cpp = [include / "cpp" / f"{name}.hpp" for name in pages.CPP] + [include / "chrono.hpp", include / "format.hpp"]
+    in_words("attrmgr_cpp", include / "attrmgr.hpp", "the C++ interface", known, version, ["attrmgr_types"], cpp,
+             (pages.Page("attrmgr_cpp", "", "", example="nest.cpp"), examples)).save(output / "attrmgr_cpp.3")
     for page in pages.PAGES:
         manual, names = family(page, read[page.header], known, version, examples)
         manual.save(output / f"{page.name}.3")

@@ -10,7 +10,7 @@ class Page:
     header: str
     sections: tuple = ()  # titles; none: the whole header
     see: tuple = ()  # pages
-    example: str = ""  # FILE:REGION of examples/guide
+    example: str = ""  # FILE:REGION of examples/guide, or FILE
     library: str = "libattrmgr"
 
 
@@ -60,3 +60,6 @@ PAGES = [
     Page("attrmgr_checked", "find lists that leak and handles that name none", "checked.h", (), ("attrmgr_platform",),
          library="libattrmgr_checked"),
 ]
+
+# The pieces of the C++ interface that attrmgr_cpp(3) describes, in the order in which one meets them.
+CPP = ["list", "list_view", "attribute", "formats", "walk", "buffer", "bytes", "error", "text", "address", "attributes"]

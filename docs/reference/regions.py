@@ -4,6 +4,11 @@ import re
 import textwrap
 
 
+def lines(path, name):
+    """A region, or without a name the whole file."""
+    return region(path, name) if name else path.read_text().rstrip("\n").split("\n")
+
+
 def region(path, name):
     lines = path.read_text().split("\n")
     marks = [i for i, line in enumerate(lines) if re.fullmatch(rf"\s*// \[{re.escape(name)}\]", line)]

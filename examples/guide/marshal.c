@@ -12,7 +12,10 @@ static void receive(const void *buffer, uint32_t length) {
   aaa_attr_list_handle list;
   const aaa_attr_cerrno code = aaa_attr_buffer_to_list(buffer, length, &list);
   if (code != 0) {
-    printf("refused: %s\n", aaa_attr_cerrno_name(code));
+    aaa_attr_fault fault;
+    (void)aaa_attr_buffer_fault(buffer, length, AAA_ATTR_READER_LIST, &fault);
+    printf("refused: %s, byte %u: %s\n", aaa_attr_cerrno_name(code), (unsigned)fault.offset,
+           aaa_attr_rule_text(fault.rule));
     return;
   }
   printf("a list of %u\n", (unsigned)aaa_attr_list_attr_count(list));

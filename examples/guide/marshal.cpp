@@ -14,7 +14,9 @@ void receive(std::span<const std::byte> buffer) {
   if (const auto list = attrmgr::list::try_from_bytes(buffer)) {  // from_bytes throws
     std::cout << "a list of " << std::ranges::distance(*list) << '\n';
   } else {
-    std::cout << "refused: " << aaa_attr_cerrno_name(list.code()) << '\n';  // list.message() is a sentence
+    const auto fault = attrmgr::fault_of(buffer);
+    std::cout << "refused: " << aaa_attr_cerrno_name(list.code()) << ", byte " << fault->offset << ": "
+              << fault->sentence() << '\n';
   }
   // [receive]
 }
