@@ -1,5 +1,5 @@
-// What the lists that are in use hold, for the report. Reads the blocks of a list, docs/layout.md, with every length
-// checked: a list may be damaged, or another thread may be changing it.
+// What the lists that are in use hold, for the report. Reads the blocks of a list with every length checked: a list may
+// be damaged, or another thread may be changing it.
 #pragma once
 
 #include <cstdint>

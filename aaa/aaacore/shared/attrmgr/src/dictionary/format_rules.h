@@ -1,5 +1,5 @@
-// What the formats ask of a value's length, and which of them store a NUL behind it. A table and no switch: formats
-// come in no order that a processor could foresee.
+// Which lengths each format allows, and which formats store a NUL after the value. A table and not a switch: formats
+// come in no order that a branch predictor could learn.
 #pragma once
 
 #include <algorithm>
@@ -29,7 +29,7 @@ class FormatRules {
     return (rows_[format].lengths >> std::min(length, kLongest) & 1) != 0;
   }
 
-  // The bytes that are stored behind a value: 1 or 0.
+  // The bytes that are stored after a value: 1 or 0.
   constexpr std::uint32_t nul(std::uint32_t format) const { return rows_[format].nul; }
 
  private:

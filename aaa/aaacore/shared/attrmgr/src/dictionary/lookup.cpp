@@ -41,7 +41,7 @@ aaa_attr_cerrno aaa_attr_get_value_from_enum_name(std::uint32_t type, const char
 }
 
 const char *aaa_attr_get_interface_from_type(std::uint32_t value) noexcept {
-  // The table has more names; the three behind this one are reached through the table only.
+  // The table has three more names after this one, which only value_interface_type gives.
   constexpr std::uint32_t kLastInterface = 43;
   return value <= kLastInterface ? name_interface_type[value] : "unknown";
 }

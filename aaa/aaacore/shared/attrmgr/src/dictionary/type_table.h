@@ -25,7 +25,7 @@ extern const TypeRow kTypes[AAA_ATTR_TYPE_COUNT];
 // The formats of all types once more, dense: the column that every add and every walk reads.
 extern const std::array<std::uint8_t, AAA_ATTR_TYPE_COUNT> kFormats;
 
-// What a record's type means to those who store, copy and check it, a bit each, as dense as the formats. The last row
+// What storing, copying and checking a record depend on its type for, a bit each, as dense as the formats. The last row
 // stands for every number that is no type.
 enum TypeTrait : std::uint8_t {
   kEndsInNul = 0x1,    // the stored value ends in a NUL

@@ -18,8 +18,8 @@ void print_attribute(RecordView record, int number) {
   std::printf("\n%d:  %s", number, line.text());
 }
 
-// The nested lists behind the block that a cursor stands in, taken one by one: the k-th belongs to the k-th live
-// Grouped record of the block.
+// The nested lists after the block that a cursor stands in, taken one by one: the k-th belongs to the k-th live Grouped
+// record of the block.
 class NestedLists {
  public:
   // The next list, or null where none holds together.
@@ -32,7 +32,7 @@ class NestedLists {
     TrustedReader reader(next_);
     const bool whole = reader.read_to_end();
     const std::byte *taken = whole ? next_ : nullptr;
-    next_ = whole ? reader.behind() : nullptr;
+    next_ = whole ? reader.after() : nullptr;
     return taken;
   }
 

@@ -120,7 +120,7 @@ class Renderer {
     line_.put(std::string_view(text, strnlen(text, record_.length())));
   }
 
-  // An identifier as octets, its first octet (the type) apart, and as text behind that.
+  // An identifier as octets, then its first octet (the type) on its own, then the rest as text.
   void put_client_id() {
     const auto *bytes = reinterpret_cast<const std::uint8_t *>(record_.value());
     for (std::uint32_t i = 0; i < length_; ++i)

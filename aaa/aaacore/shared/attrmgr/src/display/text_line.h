@@ -50,7 +50,7 @@ class TextWriter {
     return put('-').put_decimal(static_cast<std::uint64_t>(-(number + 1)) + 1);
   }
 
-  // A writer of so many bytes behind the text, which takes over afterwards what that one wrote.
+  // A writer on the next size bytes after the text; take() then makes what it wrote part of this text.
   TextWriter rest(std::size_t size) { return {at_, size}; }
   void take(const TextWriter &written) { advance(written.length()); }
 
@@ -61,7 +61,8 @@ class TextWriter {
     return put(std::string_view(digits, sizeof digits));
   }
 
-  // The piece in a column of at least `width`, at most as wide as kBlanks: blanks behind it, or before it.
+  // The piece in a column of at least `width`, at most as wide as kBlanks: filled up with blanks after it, or before
+  // it.
   TextWriter &put_left(std::string_view piece, std::size_t width) { return put(piece).pad(piece.size(), width); }
   TextWriter &put_right(std::string_view piece, std::size_t width) { return pad(piece.size(), width).put(piece); }
 

@@ -1,6 +1,8 @@
-// Pools of fixed-size elements. A pool is a few shards, each with a lock and a free list of its own. A thread sticks to
-// one shard until it meets another thread there, and then to the next: so they go apart for good. A thread whose shard
-// is empty takes from the others before the pool grows.
+// Pools of fixed-size elements. A pool consists of a few shards, each with a lock and a free list of its own,
+// because one lock would make threads wait for each other with every cursor. A thread keeps to one shard until it
+// finds another thread there and then moves to the next one, so that after a few collisions they no longer meet. A
+// thread whose shard is empty takes from the others before the pool grows.
+//
 // Memory is taken a chunk at a time and given back when the pool is destroyed.
 #include <pthread.h>
 
@@ -53,7 +55,7 @@ unsigned &own_shard() {
 class Locked {
  public:
   explicit Locked(Shard &shard) : shard_(shard) { pthread_mutex_lock(&shard_.lock); }
-  // The thread's own one, or the first behind it that nobody holds, which is its own from now on.
+  // The thread's own shard, or the first free one after it, which is the thread's own from now on.
   explicit Locked(Shard (&shards)[kShards]) : shard_(lock_own(shards)) {}
   ~Locked() { pthread_mutex_unlock(&shard_.lock); }
   Locked(const Locked &) = delete;

@@ -21,7 +21,7 @@ ATTRMGR_REPLACEABLE void *id_to_ptr(std::uint64_t handle, std::uint32_t *status,
 namespace attrmgr {
 namespace {
 
-// The definition above under a name that is its own for good.
+// The definition above under a second name, which cannot be replaced.
 extern "C" [[gnu::alias("id_to_ptr")]] void *own_id_to_ptr(std::uint64_t, std::uint32_t *, std::uint16_t);
 
 }  // namespace

@@ -1,5 +1,5 @@
-// malloc_pc keeps the owner behind the bytes that the caller asked for: the memory is an ordinary allocation, which
-// free releases, and who knows its size finds the owner again.
+// malloc_pc stores the owner after the bytes that the caller asked for. The memory is thus an ordinary allocation,
+// which free releases, and the owner can be found again by anyone who knows the size.
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>

@@ -83,7 +83,7 @@ class pieces {
     const aaa_attr_array_entry *at_ = nullptr;
   };
 
-  // Takes over an array from malloc.
+  // Owns the array, which comes from malloc, from now on.
   pieces(aaa_attr_array_entry *entries, std::size_t count) noexcept : entries_(entries), count_(count) {}
   pieces(pieces &&other) noexcept
       : entries_(std::exchange(other.entries_, nullptr)), count_(std::exchange(other.count_, 0)) {}

@@ -189,7 +189,7 @@ class list_ref : public list_view {
   }
 
  private:
-  // kAdd is one of the C calls of adding; the last arguments are what it takes behind the value.
+  // kAdd is one of the C calls of adding; the last arguments are what it takes after the value.
   template <auto kAdd, class Attribute, class Argument, class... Rest>
   aaa_attr_cerrno store(Attribute type, const Argument &value, Rest... rest) {
     if (value.code() != 0) return value.code();

@@ -14,7 +14,7 @@ constexpr std::uint32_t kTableInitial = 256;
 constexpr std::uint32_t kTableMaximum = 4096;
 constexpr char kTableName[] = "AAA Attribute List handle IDs";
 
-// One registration a process; identifiers and name are kept for whoever inspects the process.
+// One registration a process. Identifiers and name are not used again; they are kept for a debugger to find.
 struct Client {
   bool registered;
   std::uint16_t ids[2];

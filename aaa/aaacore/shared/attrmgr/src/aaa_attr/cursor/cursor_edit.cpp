@@ -1,4 +1,4 @@
-// Changing the record that a cursor stands on, and handing it on.
+// Changing the record that a cursor stands on, and adding it to a list.
 #include <attrmgr/aaa_cursor.h>
 
 #include "aaa_attr/store/add_attribute.h"
@@ -12,7 +12,8 @@ void aaa_cursor_remove(aaa_cursor *cursor) noexcept {
   RecordView record = current_record(cursor);
   if (!record) return;
   if (in_buffer(*cursor)) {
-    // A removed Grouped record owns no nested list: the one in the buffer would become part of the outer list.
+    // Nested lists are told apart by counting live Grouped records: with one less, its nested list would be read as
+    // part of the outer list.
     if (!is_grouped(record)) record.mark_deleted();
     return;
   }

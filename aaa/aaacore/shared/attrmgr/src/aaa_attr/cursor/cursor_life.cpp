@@ -26,7 +26,8 @@ Error take_buffer_cursor(const std::byte *first_block, aaa_cursor **out) {
   if (cursor == nullptr) return AAA_ATTR_ERR_NO_MEMORY;
   cursor->handle = reinterpret_cast<std::uintptr_t>(first_block) - kMarkerSize;
   cursor->flags = AAA_CURSOR_BUFFER;
-  // A cursor's editing calls write into the buffer, though it is taken over a constant one: on the client's word only.
+  // The interface takes a constant buffer, but aaa_cursor_remove and its like write into it when the client asks for
+  // it.
   enter(cursor, BlockView(const_cast<std::byte *>(first_block)));
   return 0;
 }
@@ -66,7 +67,7 @@ aaa_attr_cerrno aaa_cursor_grouped_alloc(const aaa_cursor *cursor, aaa_cursor **
 
 aaa_attr_cerrno aaa_cursor_reset(aaa_cursor *cursor) noexcept {
   if (cursor == nullptr) return AAA_ATTR_ERR_BAD_ARG;
-  // The handle is a buffer's address then, and the buffer's bytes are not to be taken for a list's.
+  // Here the handle is the address of a buffer: resolving it would take the buffer's bytes for a list.
   if (in_buffer(*cursor)) return AAA_ATTR_ERR_BAD_LIST;
   const auto [head, error] = resolve(cursor->handle);
   if (error) return error.code;

@@ -8,14 +8,14 @@
 namespace attrmgr {
 namespace {
 
-// Whatever it is, and whatever is wrong with it. Gives the code itself, in a form in which add() can end with the call.
+// Adds any attribute, with every check. It returns the bare code, so that the call of it can be a jump.
 [[gnu::noinline]] aaa_attr_cerrno add_any(aaa_attr_list_handle list, std::uint32_t type, const void *value,
                                           std::uint32_t length, const aaa_attr_meta *meta, std::uint32_t client_type) {
   return add_attribute(list, {type, value, length, meta, client_type}).code;
 }
 
-// Adds an attribute like most: nothing is wrong with it, nothing special about it, and the last block has room. There
-// is nothing to call then, and so no register to save, which is a tenth of the work.
+// Adds an attribute of the usual kind: it passes every check, its type needs nothing but storing, and the last block
+// has room. This path calls nothing and so saves no registers, which would be a tenth of its work. False: not done.
 [[nodiscard]] inline bool add_plain(aaa_attr_list_handle list, const NewAttribute &attribute) {
   if (check_presence(attribute) || attribute.length > kCopiedInline) return false;
   const BlockView head = head_at(list);

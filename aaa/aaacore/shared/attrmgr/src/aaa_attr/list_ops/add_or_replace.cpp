@@ -13,8 +13,8 @@
 namespace attrmgr {
 namespace {
 
-// Service, protocol, tag and the mandatory bit; the client and the other flag bits are not what an attribute is
-// replaced by.
+// Service, protocol, tag and the mandatory bit say what an attribute is for, so that they must agree for one to replace
+// the other; the client and the other flag bits do not.
 bool replaces(MetaView newer, MetaView older) {
   return newer.service() == older.service() && newer.protocol() == older.protocol() && newer.tag() == older.tag() &&
          ((newer.flags() ^ older.flags()) & AAA_ATTR_META_MANDATORY) == 0;
@@ -40,14 +40,14 @@ Error append_noted(ListEnd &list, const NewAttribute &attribute, const NewRecord
   return error;
 }
 
-// The found record gives way to the attribute.
+// Removes the found record and appends the attribute.
 Error supersede(ListEnd &list, RecordView found, const NewAttribute &attribute, const NewRecord &record,
                 TypeIndex *index) {
   remove_record(list.head, found);
   return append_noted(list, attribute, record, index);
 }
 
-// Value and meta of a Grouped attribute, taken before the sub-list goes in which they may lie.
+// A copy of the value and meta of a Grouped attribute: they may lie in the very sub-list that is about to be freed.
 class Taken {
  public:
   explicit Taken(NewAttribute *attribute) {
@@ -67,7 +67,7 @@ class Taken {
   std::byte meta_[kMetaSize];
 };
 
-// A Grouped record that is replaced by its own sub-list keeps it; else the sub-list goes.
+// Frees the sub-list of the found record, unless the new value names that very list.
 Error replace_grouped(ListEnd &list, RecordView found, NewAttribute attribute, const NewRecord &record, bool in_place,
                       TypeIndex *index) {
   const Taken taken(&attribute);

@@ -14,7 +14,7 @@ enum class OnOtherMeta {
   kSupersede,     // it is removed
 };
 
-// With an index of the list, the found record is looked up there, and an added one is noted.
+// With an index of the list, the record is looked up in the index, which then learns of what was added.
 Error add_or_replace(ListEnd &list, NewAttribute attribute, OnOtherMeta on_other_meta, TypeIndex *index = nullptr);
 
 }  // namespace attrmgr

@@ -49,7 +49,7 @@ struct Combination {
   aaa_attr_list_handle handle;  // the destination's
   Rules rules;
   const void *owner;
-  ListEnd destination;         // once the first attribute is written: before, nobody asks what the handle names
+  ListEnd destination;         // resolved with the first attribute: an empty source never touches it
   TypeIndex *index = nullptr;  // of the destination; null where that does not pay
 };
 
@@ -69,7 +69,7 @@ Error write_attribute(Combination &combination, const NewAttribute &attribute) {
   return add_or_replace(combination.destination, attribute, OnOtherMeta::kSupersede, combination.index);
 }
 
-// The step under every combination. A sub-list that was copied in vain is released.
+// What every combination does with one record. A sub-list whose record could not be added is freed.
 Error take_record(Combination &combination, RecordView record) {
   NewAttribute attribute = attribute_of(record);
   if (combination.rules.client_type == ClientType::kDrop) attribute.client_type = 0;
@@ -92,14 +92,14 @@ Error take_each(Combination &combination, BlockView from) {
   return 0;
 }
 
-// Not in line: only who replaces many attributes has the index on the stack.
+// Not inlined: only a call that replaces many attributes is to have the index, about 10 KiB, on its stack.
 [[gnu::noinline]] Error take_each_by_index(Combination &combination, BlockView from) {
   TypeIndex index(combination.destination.head, from);
   combination.index = &index;
   return take_each(combination, from);
 }
 
-// A search for each of few records is done before an index is made.
+// Searching for each of a few records takes less time than making an index.
 bool index_pays(const Rules &rules, BlockView source) {
   constexpr std::uint16_t kFewRecords = 4;
   const bool few = !source.next() && source.record_count() <= kFewRecords;
@@ -112,9 +112,9 @@ Error combine(aaa_attr_list_handle destination, aaa_attr_list_handle source, con
   if (error) return error;
   if (names_list_at(destination, from)) return AAA_ATTR_ERR_BAD_ARG;
   Combination combination{destination, rules, owner, {}};
-  // A source of nothing leaves the destination alone, whatever its handle is.
+  // With an empty source the destination is not touched, whatever its handle is.
   if (!index_pays(rules, from) || !*Attributes(from).begin()) return take_each(combination, from);
-  // The first attribute that is written has the code of a handle that names no list.
+  // If the handle names no list, the first attribute that is written returns that code.
   return open_destination(combination) ? take_each(combination, from) : take_each_by_index(combination, from);
 }
 

@@ -1,5 +1,5 @@
-// A number for what a list holds, whatever the order and the number of repetitions: lists that are equal as sets have
-// the same. Of those that differ few have; which they are, a sender cannot know.
+// A hash of what a list holds, whatever the order and the number of repetitions: lists that are equal as sets have the
+// same hash. Few that differ have, and since the hash is keyed a peer cannot know which.
 #pragma once
 
 #include <bit>
@@ -59,7 +59,7 @@ class Contents {
   }
 
  private:
-  // Not in line, for the size of the map: 4 KiB, and not while sub-lists are gone through.
+  // Not inlined: its map takes 4 KiB of stack, which must not be there at every level of nesting.
   [[gnu::noinline]] std::uint64_t of_many_values(BlockView list) const {
     HashBits<512> bits;
     for (const RecordView record : Attributes(list))

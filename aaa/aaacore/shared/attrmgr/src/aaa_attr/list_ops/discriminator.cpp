@@ -1,4 +1,4 @@
-// Discriminators: the service and protocol of an attribute in two bytes.
+// Discriminators: service and protocol in two bytes, as the first two of an attribute's meta.
 #include <cstdint>
 
 #include <attrmgr/aaa_attr.h>

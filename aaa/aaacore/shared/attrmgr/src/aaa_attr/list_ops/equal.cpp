@@ -4,9 +4,9 @@
 // class: the records whose hashes fall into one class are few enough for a window, and one pass over each list tells
 // whether they are the same set.
 //
-// A group's hash is that of what its sub-list holds, in any order. So sub-lists that differ are seldom compared at all,
-// and those that are equal are compared once, for both directions together; every other way, each level of nesting
-// would double the work.
+// The hash of a group is computed from what its sub-list holds, in any order. So sub-lists that differ are seldom
+// compared at all, and equal ones are compared once, for both directions together. Comparing them once a direction
+// would double the work with each level of nesting, 2^128 comparisons for a hostile pair.
 #include <attrmgr/aaa_attr.h>
 
 #include "aaa_attr/list_ops/contents_hash.h"
@@ -65,7 +65,7 @@ bool same_sub_lists_in_order(aaa_attr_list_handle handle1, aaa_attr_list_handle 
 
 // ---- The same in any order ----
 
-// As many as make a mebibyte of the shortest records a matter of a hundred passes.
+// Large enough that a mebibyte of the shortest records takes no more than a hundred passes.
 constexpr std::size_t kValueEntries = 2048;
 constexpr std::size_t kGroupEntries = 2048;
 
@@ -140,7 +140,7 @@ class SetComparison {
     const Outcome outcome = compare(hashes);
     if (outcome != Outcome::kTooMany) return outcome == Outcome::kEqual;
     if (hashes.bits < HashClass::kBitsMax) return equal(hashes.half(0)) && equal(hashes.half(1));
-    // So many that differ and have one hash: a matter of bad luck, and of patience.
+    // So many different records with one hash: with a keyed hash this is chance, and comparing all with all will do.
     return all_match(list1_, list2_, hashes) && all_match(list2_, list1_, hashes);
   }
 
@@ -255,7 +255,7 @@ bool sets_equal(BlockView list1, BlockView list2, Windows &windows) {
   if ((groups1 == 0) != (groups2 == 0)) return false;
   if (!values_equal(list1, list2, groups1 != 0, windows)) return false;
   if (groups1 == 0) return true;
-  // Of one group each nobody needs to know what it holds to know which to compare.
+  // With one group each there is nothing to choose, and hashing what they hold would be wasted.
   if (groups1 == 1 && groups2 == 1) return Groups(windows).match(first_group(list1), first_group(list2));
   return groups_equal(list1, groups1, list2, windows);
 }
@@ -268,7 +268,7 @@ bool nested_equal(aaa_attr_list_handle handle1, aaa_attr_list_handle handle2, Wi
   return same_in_order(list1, list2) || sets_equal(list1, list2, windows);
 }
 
-// Not in line: lists in the same order need no windows on the stack.
+// Not inlined: lists in the same order are compared without the windows on the stack.
 [[gnu::noinline]] bool equal_in_any_order(BlockView list1, BlockView list2) {
   Windows windows;
   return sets_equal(list1, list2, windows);

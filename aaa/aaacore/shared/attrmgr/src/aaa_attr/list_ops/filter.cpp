@@ -13,7 +13,7 @@
 namespace attrmgr {
 namespace {
 
-// The types that a caller wants kept.
+// The types that are to be kept.
 class Kept {
  public:
   Kept(const std::uint32_t *types, std::uint8_t count) : types_(types), count_(count) {
@@ -66,7 +66,7 @@ aaa_attr_cerrno aaa_attr_filter_on_type(aaa_attr_list_handle *list, const std::u
 
   List made;
   if (const Error error = create_list(ATTRMGR_CALLER, &made)) return error.code;
-  // Once more: a handle table may have changed while the new list was made.
+  // Resolved again: a handle table of the process's own may have changed while the new list was made.
   const auto [rest, gone] = resolve(*list);
   if (const Error error = gone ? gone : append_kept(rest, made.head)) {
     free_without_sub_lists(made.handle, made.head);

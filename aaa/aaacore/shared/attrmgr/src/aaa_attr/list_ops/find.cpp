@@ -71,7 +71,7 @@ aaa_attr_cerrno aaa_attr_get_nth(aaa_attr_list_handle list, std::uint32_t type, 
 aaa_attr_cerrno aaa_attr_get_string(aaa_attr_list_handle list, std::uint32_t type, const char **text,
                                     std::uint32_t *length) noexcept {
   if (format_of(type) != AAA_ATTR_FMT_STRING || text == nullptr || length == nullptr) return AAA_ATTR_ERR_BAD_ARG;
-  const void *value;
+  const void *value = nullptr;
   const Error error = get(list, type, 0, &value, length);
   if (!error) *text = static_cast<const char *>(value);
   return error.code;

@@ -1,6 +1,6 @@
-// Sub-lists are not freed by recursion. From the first block that holds Grouped records on, the chain of blocks first
-// grows at its end by the chain of each sub-list that a block owns, and only then the blocks go. However deep lists
-// nest, the stack stays small; whatever names a list twice, it goes once.
+// Sub-lists are not freed by recursion: a peer decides how deep lists nest, and must not decide how much stack is used.
+// Instead the chain of every sub-list is appended to the chain of blocks that is to be freed, which grows while it is
+// walked, and only then the blocks are freed. A list that two records name is appended, and freed, once.
 #include "aaa_attr/list_ops/free.h"
 
 #include <cstdio>
@@ -17,8 +17,8 @@
 namespace attrmgr {
 namespace {
 
-// The head of a list that may be freed; null for a handle that names none. The handle is looked up twice: a table that
-// knows it first and not a moment later deserves a word.
+// The head of a list that may be freed; null for a handle that names none. The handle is looked up twice, as a check
+// and as a cursor would, and a table that changes its mind in between is reported on the standard error stream.
 BlockView head_to_free(aaa_attr_list_handle list) {
   if (resolve(list).error) return {};
   const auto [head, error] = resolve(list);
@@ -26,7 +26,7 @@ BlockView head_to_free(aaa_attr_list_handle list) {
   return head;
 }
 
-// A list that is about to go must not be found by another record that names it.
+// The magic of a list that is queued to be freed: another record that names it must not find a list there.
 constexpr std::uint16_t kQueuedMagic = 0;
 
 // Chains the sub-lists of the block's live records after tail and withdraws their handles. Returns the new tail.
@@ -35,7 +35,7 @@ BlockView queue_sub_lists(BlockView block, BlockView tail) {
     const aaa_attr_list_handle sub_list = owned_list(record);
     if (sub_list == 0) continue;
     BlockView head = head_to_free(sub_list);
-    // A block without the head flag belongs to a list that has taken it in.
+    // A block without the head flag was spliced into another list, which frees it.
     if (!head || !head.has(kBlockHead)) continue;
     id_delete(sub_list, handle_table());
     head.set_magic(kQueuedMagic);

@@ -22,7 +22,8 @@ aaa_attr_cerrno aaa_attr_list_merge_list(aaa_attr_list_handle destination, aaa_a
   to_last.set_next(from);
   to_last.clear_flags(kBlockLast);
   to.set_block_count(static_cast<std::uint16_t>(blocks));
-  // A cursor that still stands in the source may remove records of what is the destination now.
+  // A cursor over the source may still remove records, which are the destination's now, and would note it in the
+  // source.
   note(to, kMayNeedPacking | (from.own_word() & kMayHoldTypeZero));
   if (!noted(from, kTailsAreClear)) rule_out(to, kTailsAreClear);
   set_tail(to, from_last);

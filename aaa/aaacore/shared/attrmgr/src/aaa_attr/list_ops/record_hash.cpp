@@ -24,7 +24,7 @@ std::uint64_t make_key() {
 std::uint64_t hash_key() {
   const std::uint64_t known = key.load(std::memory_order_relaxed);
   if (known != 0) return known;
-  // Of threads that come here at once, the first one's key is everyone's.
+  // Where threads come here at once, all use the key of the first.
   std::uint64_t expected = 0;
   const std::uint64_t made = make_key();
   return key.compare_exchange_strong(expected, made, std::memory_order_relaxed) ? made : expected;

@@ -1,5 +1,5 @@
-// Hashes by which records of one list are found in another. They are keyed with a number of the process's own: who
-// sends a list cannot choose records that have the same hash.
+// Hashes by which records of one list are found in another. They are keyed with a random number of the process, so that
+// a peer cannot choose records that all have the same hash and make each look-up a walk.
 #pragma once
 
 #include <cstddef>
@@ -41,7 +41,7 @@ class RecordHasher {
   std::uint64_t of_value(RecordView record) const {
     const std::size_t length = record.length();
     const std::byte *at = record.value();
-    // Mixed before the value comes in: else a value could undo what the type does to the same bits.
+    // Mixed before the value comes in: otherwise a value could cancel what the type does to the same bits.
     const std::uint64_t start = of_number(std::uint64_t{length} << 16 | record.type());
     if (!FourWords::suit(length)) return of_bytes(start, at, length);
     const FourWords words(length);

@@ -17,7 +17,7 @@
 namespace attrmgr {
 namespace {
 
-// As many as make a mebibyte of the shortest records a matter of a hundred windows.
+// Large enough that a mebibyte of the shortest records takes no more than a hundred windows.
 constexpr std::size_t kWindowEntries = 1024;
 
 // Two lists, and the types of the second one's attributes.
@@ -43,7 +43,7 @@ Error open_pair_with_types(aaa_attr_list_handle list, aaa_attr_list_handle other
   return 0;
 }
 
-// The rare case: types outside the dictionary, which only a buffer brings. Not in line, for the size of the set.
+// The rare case: types outside the dictionary, which only a buffer brings. Not inlined: the set takes 8 KiB of stack.
 [[gnu::noinline]] void remove_any_types(const Pair &pair) {
   std::bitset<kRecordTypeMax + 1> types;
   for (const RecordView other : Attributes(pair.other)) types[other.type()] = true;
@@ -51,7 +51,7 @@ Error open_pair_with_types(aaa_attr_list_handle list, aaa_attr_list_handle other
     if (types[own.type()]) remove_with_sub_list(pair.own, own);
 }
 
-// Not in line, nor the next one: who removes nothing is not to have a window on the stack.
+// Not inlined, nor is the next one: a call that removes nothing is not to have a window on its stack.
 [[gnu::noinline]] void remove_equal(const Pair &pair) {
   const RecordHasher hasher;
   WindowSpace<kWindowEntries> space;

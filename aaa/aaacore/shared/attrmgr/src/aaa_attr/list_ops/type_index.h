@@ -1,5 +1,6 @@
 // Where a list has its records of the types that another list has, found in one pass over both: for a merge, which
-// would else search the one list for each record of the other. It takes no memory but the stack's, about 10 KiB of it.
+// would otherwise search the one list for each record of the other. It takes no memory but the stack's, about 10 KiB of
+// it.
 #pragma once
 
 #include <cstddef>

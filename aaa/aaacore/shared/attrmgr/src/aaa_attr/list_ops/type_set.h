@@ -1,5 +1,5 @@
 // A set of attribute types: a bit for each type of the dictionary. Other numbers, which only a buffer can bring into a
-// list, share one; where it is set, the set's maker looks closer.
+// list, share one; where that is set, the caller has to compare the numbers themselves.
 #pragma once
 
 #include <algorithm>

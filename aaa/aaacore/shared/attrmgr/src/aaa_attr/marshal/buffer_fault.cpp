@@ -22,13 +22,13 @@ struct Answer {
 template <class Reader>
 Answer read_flat(Body body) {
   Reader reader(body.at, body.length);
-  if (reader.read_to_end()) return {0, {AAA_ATTR_RULE_NONE, reader.behind()}};
+  if (reader.read_to_end()) return {0, {AAA_ATTR_RULE_NONE, reader.after()}};
   return {AAA_ATTR_ERR_BAD_BUFFER, reader.fault()};
 }
 
 Answer read_tlv(Body body) {
   TlvReader<Named> reader(body.at, body.length);
-  if (reader.read_to_end()) return {0, {AAA_ATTR_RULE_NONE, reader.behind()}};
+  if (reader.read_to_end()) return {0, {AAA_ATTR_RULE_NONE, reader.after()}};
   return {reader.error(), reader.fault()};
 }
 

@@ -27,7 +27,8 @@ class FlatBlocks {
   // Of the whole buffer.
   std::uint32_t size() const { return static_cast<std::uint32_t>(size_); }
 
-  // Calls visit(block) for each block once more. Those of most lists are remembered; else the lists are walked again.
+  // Calls visit(block) for each block once more. The blocks of most lists are remembered; longer lists are walked
+  // again.
   template <class Visit>
   Error revisit(aaa_attr_list_handle list, Visit &visit) const {
     if (num_blocks_ > kRemembered) return for_each_flat_block(list, visit);

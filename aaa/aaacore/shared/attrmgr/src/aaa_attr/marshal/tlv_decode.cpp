@@ -8,7 +8,7 @@
 namespace attrmgr {
 namespace {
 
-// The sub-list is its parent's before it is filled: whoever frees the outer list, done or not, frees all.
+// The sub-list is added to its parent before it is filled, so that freeing the outer list frees it on every failure.
 Error add_sub_list(ListEnd &parent, NewAttribute attribute, const void *owner, Unwritten<ListEnd> *sub_list) {
   List made;
   if (const Error error = create_list(owner, &made)) return error;
@@ -24,7 +24,7 @@ Error add_sub_list(ListEnd &parent, NewAttribute attribute, const void *owner, U
 
 }  // namespace
 
-// What the reader keeps, the compiler holds in registers as long as nobody else is given the reader.
+// The reader is not passed to any function: the compiler then keeps its fields in registers.
 Error aaa_attr_tlv_buffer_to_list(const std::byte *bytes, std::uint64_t length, BlockView list, const void *owner) {
   TlvReader<> reader(bytes, length);
   Unwritten<ListEnd> lists[AAA_ATTR_NESTING_MAX + 1];  // that are being filled, by depth

@@ -49,8 +49,8 @@ class TlvReader {
   bool opens_list() const { return opens_list_; }
   unsigned depth() const {
     return depth_ - (opens_list_ ? 2 : 1);
-  }                                                // of the list that the record is in; 0 for the outer one
-  const std::byte *behind() const { return at_; }  // the byte after what was read so far
+  }                                               // of the list that the record is in; 0 for the outer one
+  const std::byte *after() const { return at_; }  // the byte after what was read so far
 
  private:
   // The bytes that remain of the list, or, before the outer one, of the buffer.

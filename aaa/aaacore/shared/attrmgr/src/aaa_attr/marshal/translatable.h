@@ -30,7 +30,7 @@ class TranslatableReader {
   }
 
   const Fault &fault() const { return fault_; }
-  const std::byte *behind() const { return reader_.behind(); }
+  const std::byte *after() const { return reader_.after(); }
 
  private:
   // The rule that the value breaks by its length.

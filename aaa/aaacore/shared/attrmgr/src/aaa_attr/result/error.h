@@ -1,6 +1,7 @@
-// What an internal step that can fail returns: 0, or one of the AAA_ATTR_ERR codes. A type of its own, so that the
-// compiler speaks up where one is dropped, and none is taken for a length or for the 1 that stands for yes. It is the
-// code in a register and costs nothing. Exported functions return its code.
+// The result of an internal step that can fail: 0, or one of the AAA_ATTR_ERR codes. It is a type of its own, so
+// that the compiler warns where a result is ignored, and so that a code cannot be mistaken for a length or a
+// count. It costs nothing: it is passed in a register, as the bare code would be. Exported functions return
+// error.code.
 #pragma once
 
 #include <attrmgr/aaa_attr_types.h>

@@ -12,7 +12,7 @@
 
 namespace attrmgr {
 
-// A list and where it ends. Whoever appends in a loop keeps one: finding the last block anew may take the whole chain.
+// A list and where it ends. A loop that appends keeps one: finding the last block again may mean walking the chain.
 struct ListEnd {
   BlockView head;
   BlockView last;

@@ -23,7 +23,7 @@ Error create_checked_list(const void *owner, List *list);
 // that gives none sets block count and tail itself. Null when memory is exhausted or the head counts 65,535 blocks.
 [[nodiscard]] BlockView aaa_attr_list_add_block(BlockView head, BlockView last, std::size_t size);
 
-// Frees a block. Of one that may hold a secret nothing stays behind in memory.
+// Frees a block. One that may hold a secret is overwritten first, so that the secret does not stay in memory.
 void free_block(BlockView block);
 
 // ---- What a block remembers of itself, and a head of its list ----

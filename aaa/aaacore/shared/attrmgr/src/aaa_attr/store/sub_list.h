@@ -1,5 +1,5 @@
-// Which records own a list, and which list: the one place that knows. A record of a Grouped type owns the list whose
-// handle is its value, and nobody else does.
+// Which records own a list, and which list; nothing else asks for the type or for the length of the handle. A
+// record of a Grouped type owns the list whose handle is its value, and is that list's only owner.
 #pragma once
 
 #include <cstring>
@@ -12,7 +12,7 @@
 
 namespace attrmgr {
 
-// Of a Grouped type. Its value may yet be no handle: lengths in a received buffer are what the sender likes.
+// Of a Grouped type. The value need not be a handle: in a received buffer it may have any length.
 template <class Form, class Byte>
 bool is_grouped(BasicRecord<Form, Byte> record) {
   return (traits_of(record.type()) & kOwnsSubList) != 0;

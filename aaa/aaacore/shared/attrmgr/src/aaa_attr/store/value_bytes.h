@@ -1,6 +1,6 @@
-// Copying, comparing and hashing values. Lengths come in no order that a processor could foresee, and a branch on them,
-// or a call that makes one, is guessed wrong for one value of three. So what is 4 to 16 bytes long, three values of
-// four, is handled without: as four words that overlap, two from each end inwards.
+// Copying, comparing and hashing values. Lengths come in no order that a branch predictor could learn: a branch on
+// them, or a call that makes one, is mispredicted for one value of three. So values of 4 to 16 bytes, three of four,
+// are handled without a branch: as four words that overlap, two from each end inwards.
 #pragma once
 
 #include <cstring>

@@ -93,8 +93,8 @@ class BasicRecord {
   // Header, meta and value. 64 bits wide: the length may be any 32-bit number in a hostile buffer.
   std::uint64_t size() const { return std::uint64_t{value_at()} + length(); }
 
-  // The same for a walk, which takes as long as the way from one record's place to the next one's: with a branch in it,
-  // the processor does not wait for the flags. Most lists have no metas at all, or hardly any.
+  // The same for a walk, whose speed depends on how soon the next record's place is known. Hence a branch, which a
+  // processor predicts instead of waiting for the flags: most lists have no metas at all, or hardly any.
   std::uint64_t size_in_walk() const {
     const std::uint64_t size = kRecordHeaderSize + std::uint64_t{length()};
     return __builtin_expect_with_probability(has_meta(), 0, 1.0) ? size + kMetaSize : size;
@@ -167,7 +167,7 @@ using BlockView = BasicBlock<HostForm>;
 using ConstRecordView = BasicRecord<HostForm, const std::byte>;
 using ConstBlockView = BasicBlock<HostForm, const std::byte>;
 
-// What a reader found in a buffer, for whoever may write to the buffer.
+// A block that a reader found in the buffer, for a caller that may write to the buffer.
 template <class Form>
 BasicBlock<Form> writable(BasicBlock<Form, const std::byte> found, std::byte *buffer) {
   return BasicBlock<Form>(buffer + (found.bytes() - buffer));

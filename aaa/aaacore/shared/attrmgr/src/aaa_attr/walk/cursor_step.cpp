@@ -20,13 +20,13 @@ std::uint16_t live_grouped_records(BlockView block) {
 }
 
 // In a buffer the list goes on after the nested lists of the block, if `next` says that it goes on at all. Null when it
-// does not, when the nested lists do not hold together, or when the block would end in its own header: what comes after
-// it is the block again.
+// does not, when the nested lists do not hold together, or when the block claims to end in its own header: the walk
+// would come back to that block for ever.
 BlockView next_block_in_buffer(BlockView block) {
   if (!block.next() || block.used() < kHeaderSize) return {};
   if (!block.has(kBlockHoldsGrouped)) return BlockView(block.end());
   TrustedReader nested(block.end(), kUnknownLength, live_grouped_records(block));
-  return nested.read_to_end() ? BlockView(block.end() + (nested.behind() - block.end())) : BlockView();
+  return nested.read_to_end() ? BlockView(block.end() + (nested.after() - block.end())) : BlockView();
 }
 
 bool enter_next_block(aaa_cursor *cursor) {

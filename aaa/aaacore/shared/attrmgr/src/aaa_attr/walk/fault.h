@@ -1,5 +1,5 @@
-// How a reader says which rule a buffer breaks. What reads to get on with it takes Unnamed, which keeps nothing and
-// costs nothing; who asks why takes Named.
+// How a reader says which rule a buffer breaks. Decoders take Unnamed, which stores nothing and costs nothing; the call
+// that tells why a buffer is refused takes Named.
 #pragma once
 
 #include <attrmgr/aaa_attr_fault.h>

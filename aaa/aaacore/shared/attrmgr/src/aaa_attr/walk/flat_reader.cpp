@@ -153,21 +153,21 @@ typename FlatReader<Form, kRules, Fault>::Findings FlatReader<Form, kRules, Faul
         if (kChecksValues) broken |= record.length() != kHandleSize;
       }
     }
-    if (kChecksValues) broken |= traits & lacks_nul(record, scan.behind());
+    if (kChecksValues) broken |= traits & lacks_nul(record, scan.after());
   }
   static_assert(kEndsInNul == 1);
   found.sound = (broken & 1) == 0 && (kRules == FlatRules::kTrusted ? !scan.overrun() : scan.exact());
   return found;
 }
 
-// Goes over the records once more, one by one, for the first that is not sound. Who need not know which is spared it.
+// Goes over the records once more, one by one, for the first that is not sound. Only for the call that names the fault.
 template <class Form, FlatRules kRules, class Fault>
 bool FlatReader<Form, kRules, Fault>::refuse_records() {
   if constexpr (!Fault::kNames) return false;
   Scan scan = records();
   while (scan.next())
-    if (!holds_value(scan.record(), scan.behind())) return false;
-  if (scan.overrun()) return refuse_cut_record(Record(block_.bytes() + (scan.behind() - block_.bytes())));
+    if (!holds_value(scan.record(), scan.after())) return false;
+  if (scan.overrun()) return refuse_cut_record(Record(block_.bytes() + (scan.after() - block_.bytes())));
   return refuse_field(AAA_ATTR_RULE_RECORD_COUNT, kRecordCountAt);
 }
 

@@ -71,7 +71,7 @@ class FlatReader {
   unsigned depth() const { return depth_ - 1; }  // 0 for the outer list
   // Of the list that the block which breaks the rules would be in.
   unsigned fault_depth() const { return starts_list_ && levels_[depth_].lists_left > 0 ? depth_ : depth_ - 1; }
-  const std::byte *behind() const { return at_; }  // the byte after the blocks read so far
+  const std::byte *after() const { return at_; }  // the byte after the blocks read so far
 
  private:
   struct Level {
@@ -123,7 +123,7 @@ class FlatReader {
   Level levels_[AAA_ATTR_NESTING_MAX + 2];  // written as they are entered
 };
 
-// Reads bytes that only their block lengths are known of.
+// Reads bytes of which nothing is known but what their blocks say: for the calls that are told no length.
 using TrustedReader = FlatReader<HostForm, FlatRules::kTrusted>;
 
 }  // namespace attrmgr

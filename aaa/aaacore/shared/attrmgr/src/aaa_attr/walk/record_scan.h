@@ -35,10 +35,12 @@ class BasicRecordScan {
   }
 
   BasicRecord<Form, Byte> record() const { return record_; }
-  const std::byte *behind() const { return at_; }  // the byte after the record
+  const std::byte *after() const { return at_; }  // the byte after the record
 
   // After next() gave false: the records were as many as counted and filled the used bytes exactly.
   bool exact() const { return left_ == 0 && at_ == end_; }
+  // After next() gave false: there were as many records as counted, whatever comes after them.
+  bool all_found() const { return left_ == 0; }
   // After next() gave false: it was at a record that would pass the used bytes.
   bool overrun() const { return left_ > 0 && at_ != end_; }
 

@@ -3,8 +3,8 @@
 //   for (RecordView record : RecordsOfType(head, type))   those of Attributes(head) that have the type
 //
 // A block of many records is walked only when a vector search has found the two bytes of the type somewhere in it. The
-// search is a filter: it looks at values too, and what it finds there, or finds of bytes that nobody has written, costs
-// a walk and changes no answer.
+// search is a filter: it looks at values too, and a match there, or in bytes of a meta, costs a walk and changes no
+// answer.
 #pragma once
 
 #include "aaa_attr/store/list_blocks.h"
