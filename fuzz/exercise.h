@@ -132,6 +132,21 @@ inline void marshal(aaa_attr_list_handle list) {
   std::free(entries);
 }
 
+// The fields of a buffer cover it, byte after byte, and the fault that comes with them is the one that comes alone.
+inline void require_fields(const std::uint8_t *bytes, std::uint32_t length, aaa_attr_reader reader,
+                           const aaa_attr_fault &expected) {
+  std::uint32_t at = 0;
+  const auto take = [](const aaa_attr_field *field, void *next) {
+    auto &offset = *static_cast<std::uint32_t *>(next);
+    REQUIRE(field->offset == offset && field->depth <= AAA_ATTR_NESTING_MAX + 1);
+    offset += field->size;
+  };
+  aaa_attr_fault fault = {77, 77};
+  const aaa_attr_cerrno code = aaa_attr_buffer_fields(bytes, length, reader, take, &at, &fault);
+  REQUIRE(at == length && (code != 0) == (expected.rule != AAA_ATTR_RULE_NONE));
+  REQUIRE(fault.rule == expected.rule && fault.offset == expected.offset);
+}
+
 // Why a reader refuses a buffer: with the same code as the reader, a rule if and only if it does, at a byte of the
 // buffer or at its end.
 inline aaa_attr_fault fault_of(const std::uint8_t *bytes, std::uint32_t length, aaa_attr_reader reader,
@@ -140,6 +155,7 @@ inline aaa_attr_fault fault_of(const std::uint8_t *bytes, std::uint32_t length, 
   REQUIRE(aaa_attr_buffer_fault(bytes, length, reader, &fault) == code);
   REQUIRE((fault.rule != AAA_ATTR_RULE_NONE) == (code != 0) && fault.offset <= length);
   REQUIRE((*aaa_attr_rule_text(fault.rule) != 0) == (code != 0));
+  require_fields(bytes, length, reader, fault);
   return fault;
 }
 

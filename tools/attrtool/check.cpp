@@ -1,0 +1,142 @@
+// attrtool check: which captures are good.
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <filesystem>
+#include <iostream>
+#include <memory>
+
+#include "capture.h"
+#include "check_captures.h"
+#include "explain_words.h"
+#include "verbs.h"
+
+namespace attrtool {
+namespace {
+
+constexpr char kExamples[] = R"(Examples:
+  attrtool check reply.bin           good or refused: which byte, which rule
+  attrtool check captures/           the refused files of a directory, a summary
+  attrtool check --all captures/     the good ones as well
+  attrtool check --strict reply.bin  fit for every reader
+  attrtool check --json captures/ | jq -r 'select(.good == false) | .file'
+
+Exit status: 0 all are good, 1 one is refused, 2 usage or a file that cannot be
+read.)";
+
+struct Arguments {
+  std::vector<std::string> paths;
+  bool json = false, all = false, strict = false;
+};
+
+// A line on a terminal that says how far it has come, and is gone in the end.
+class Progress {
+ public:
+  explicit Progress(std::size_t all) : all_(all), shown_(isatty(STDERR_FILENO) != 0 && all > 1) {}
+  ~Progress() { clear(); }
+  Progress(const Progress &) = delete;
+  Progress &operator=(const Progress &) = delete;
+
+  void step() {
+    ++done_;
+    if (!shown_ || done_ % kStepsALook != 0 || std::chrono::steady_clock::now() < next_) return;
+    next_ = std::chrono::steady_clock::now() + std::chrono::milliseconds(100);
+    std::cerr << '\r' << done_ << " of " << all_ << " captures" << std::flush;
+    visible_ = true;
+  }
+  // Before something else is written.
+  void clear() {
+    if (visible_) std::cerr << "\r\x1b[K" << std::flush;
+    visible_ = false;
+  }
+
+ private:
+  static constexpr std::size_t kStepsALook = 64;
+
+  std::size_t all_, done_ = 0;
+  bool shown_, visible_ = false;
+  std::chrono::steady_clock::time_point next_{};
+};
+
+// The files to check: those that are named, and those below the directories that are, in the order of their names.
+std::vector<std::string> files_of(const std::vector<std::string> &paths) {
+  namespace fs = std::filesystem;
+  std::vector<std::string> files;
+  for (const std::string &path : paths) {
+    std::error_code error;
+    if (path == "-" || !fs::is_directory(path, error)) {
+      files.push_back(path);
+      continue;
+    }
+    const auto first = static_cast<std::ptrdiff_t>(files.size());
+    fs::recursive_directory_iterator entry(path, error);
+    for (; !error && entry != fs::recursive_directory_iterator(); entry.increment(error))
+      if (entry->is_regular_file(error)) files.push_back(entry->path().string());
+    if (error) throw Failure(printable(path) + ": " + error.message());
+    std::sort(files.begin() + first, files.end());
+  }
+  return files;
+}
+
+class Run {
+ public:
+  explicit Run(const Arguments &arguments)
+      : arguments_(arguments),
+        files_(files_of(arguments.paths)),
+        progress_(files_.size()),
+        in_bulk_(files_ != arguments.paths) {}
+
+  int run() {
+    for (const std::string &file : files_) {
+      check_file(file);
+      progress_.step();
+    }
+    progress_.clear();
+    const bool summed_up = in_bulk_ || files_.size() > 1;
+    if (summed_up && arguments_.json) tally_.write_json(std::cout);
+    if (summed_up && !arguments_.json) tally_.write_text(std::cout);
+    return tally_.unreadable() > 0 ? kUsage : tally_.refused() > 0 ? kNo : kYes;
+  }
+
+ private:
+  void check_file(const std::string &file) {
+    try {
+      read_capture(file, &bytes_);
+    } catch (const Failure &failure) {
+      progress_.clear();
+      std::cerr << "attrtool: " << failure.what() << '\n';
+      tally_.add_unreadable();
+      return;
+    }
+    const std::string name = file == "-" ? "standard input" : file;
+    const Checked checked = check(name, bytes_, byte_order_of(bytes_), arguments_.strict);
+    tally_.add(checked);
+    if (arguments_.json) return write_json(checked, std::cout);
+    if (in_bulk_ && !arguments_.all && checked.refusal == nullptr) return;
+    progress_.clear();
+    write_text(checked, std::cout);
+  }
+
+  const Arguments &arguments_;
+  const std::vector<std::string> files_;
+  Progress progress_;
+  bool in_bulk_;  // found in directories: the good ones are not worth a line
+  Tally tally_;
+  std::vector<std::uint8_t> bytes_;
+};
+
+}  // namespace
+
+void add_check(CLI::App &program, const Options &, int *status) {
+  CLI::App *verb = program.add_subcommand("check", "Say which captures are good, and why the others are not");
+  const auto arguments = std::make_shared<Arguments>();
+  verb->add_option("FILE", arguments->paths, "Captures or directories; - is the standard input")->required();
+  verb->add_flag("--json", arguments->json, "Write JSON lines: captures, then a summary");
+  verb->add_flag("--all", arguments->all, "Name the good captures of a directory, too");
+  verb->add_flag("--strict", arguments->strict, "Good are only captures that every reader takes");
+  verb->footer(kExamples);
+  verb->callback([arguments, status] { *status = Run(*arguments).run(); });
+}
+
+}  // namespace attrtool
