@@ -170,7 +170,7 @@ inline List through_tlv(List &list) {
 }
 using Write = Code (*)(List &, Attr);
 template <Write write, bool keep_client_type>
-Code take_over(List &destination, List &source) {
+Code take_all(List &destination, List &source) {
   if (&destination == &source) return AAA_ATTR_ERR_BAD_ARG;
   List given = copy(source);
   for (Attr *a : live(given)) {
@@ -182,16 +182,16 @@ Code take_over(List &destination, List &source) {
 inline Code copy_by_type(List &source, List &destination, std::uint32_t type) {
   List wanted = source;
   remove_if(wanted, kFreed, [type](auto &a) { return a.type != type; });
-  return take_over<add, false>(destination, &destination == &source ? source : wanted);
+  return take_all<add, false>(destination, &destination == &source ? source : wanted);
 }
 inline Code replace_and_add(List &destination, List &source) {
   if (&destination != &source) remove_types_of(destination, source);
-  return take_over<add, false>(destination, source);
+  return take_all<add, false>(destination, source);
 }
 inline Code replace_and_add_v1(List &list1, List &list2) {
   if (&list1 != &list2) remove_types_of(list1, list2);
   std::swap(list1.records, list2.records);
-  return take_over<add, true>(list1, list2);
+  return take_all<add, true>(list1, list2);
 }
 inline Code merge_list(List &destination, List &source) {
   if (&destination == &source) return AAA_ATTR_ERR_BAD_ARG;

@@ -27,12 +27,21 @@ struct Walk {
 inline constexpr aaa_attr_meta kMetas[] = {
     {}, {3, 7, 0, 0, 0}, {3, 7, 0, 2, 9}, {3, 7, 0, 1, 0}, {3, 7, 5, 0, 0}, {3, 8, 0, 0, 0}, {4, 7, 0, 0, 0}};
 inline constexpr std::uint32_t kClientTypes[] = {0, 1, 5, 23, 24, 127, 133};
-// Short, of medium size, and about the largest that a block takes; beyond 17 for types of any length only.
-inline constexpr std::uint32_t kLengths[] = {0,   1,   2,   3,   4,   5,    7,     8,     9,     15,    16,    17,
-                                             100, 200, 464, 480, 481, 1000, 65494, 65495, 65496, 65502, 65503, 65504};
+// Short and of medium size; and about the largest that a block takes, for types of any length only.
+inline constexpr std::uint32_t kLengths[] = {0, 1, 2, 3, 4, 5, 7, 8, 9, 15, 16, 17, 100, 200, 464, 480, 481, 1000};
+inline constexpr std::uint32_t kLargeLengths[] = {65494, 65495, 65496, 65502, 65503, 65504};
 
-// One step. Any bytes are one, so that they can be generated and shrunk; their order is that of Call's fields.
-using Step = std::array<std::uint8_t, 11>;
+// One step. Any bytes are one, so that they can be generated and shrunk.
+enum Field { kOperation, kList, kOther, kChoiceLow, kChoiceHigh, kDepth, kOtherDepth, kMeta, kClient, kType, kLength };
+using Step = std::array<std::uint8_t, kLength + 1>;
+
+// Which of `count` things a byte means. There are more slots than things: those that are left mean one of the first
+// `frequent`, which come up more often so.
+constexpr std::size_t pick(std::uint8_t byte, std::size_t count, std::size_t slots, std::size_t frequent) {
+  return byte % slots < count ? byte % slots : byte % frequent;
+}
+inline std::size_t pick_type(const Step &s) { return pick(s[kType], std::size(kTypes), 35, 6); }
+inline std::size_t pick_meta(const Step &s) { return pick(s[kMeta], std::size(kMetas), 11, 1); }
 
 // A list, or a sub-list further down.
 inline List &down(List &list, unsigned depth, unsigned choice) {
@@ -41,17 +50,29 @@ inline List &down(List &list, unsigned depth, unsigned choice) {
 }
 // The step without attributes of type 0.
 inline Step without_type_zero(Step step) {
-  if (step[9] % 35 == kTypeZeroAt) step[9] = 0;
+  if (pick_type(step) == kTypeZeroAt) step[kType] = 0;
   return step;
 }
 
-// What a step comes to. The first values of a field are the frequent ones.
+// What a step comes to.
 struct Call {
   // A list and its own sub-lists are not used together.
-  unsigned depth(unsigned n) const { return &outer == &other_outer || n % 8 < 5 ? 0 : n % 8 < 7 ? 1 : 2; }
+  unsigned depth(Field field) const {
+    constexpr unsigned kDepths[] = {0, 0, 0, 0, 0, 1, 1, 2};
+    return &outer == &other_outer ? 0 : kDepths[s[field] % std::size(kDepths)];
+  }
+  // Every other time the one that suits the type, and large ones seldom: they make the lists slow to compare.
+  std::uint32_t any_length() const {
+    constexpr std::uint8_t kSuits = 128, kLarge = 250;
+    constexpr std::uint32_t kShortMax = 17, kOfAnyLength = 2;
+    const std::uint8_t byte = s[kLength];
+    const std::uint32_t length =
+        byte < kLarge ? kLengths[byte % std::size(kLengths)] : kLargeLengths[byte % std::size(kLargeLengths)];
+    if (byte >= kSuits && (type.length == 0 || length <= kShortMax)) return length;
+    return type.length != 0 ? type.length : kOfAnyLength;
+  }
   Attr attribute() const {
-    std::uint32_t length = kLengths[s[10] < 250 ? s[10] % 18 : 18 + s[10] % 6];
-    if (s[10] < 128 || (type.length && length > 17)) length = type.length ? type.length : 2;
+    const std::uint32_t length = any_length();
     Attr a{type.number, Bytes(length), meta.service ? Meta(meta) : Meta(), client_type, {}};
     for (std::uint32_t i = 0; i < length; ++i) a.value[i] = static_cast<std::uint8_t>(choice % 3 + i % 7);
     a.value.reserve(1);  // not null when it is empty
@@ -65,12 +86,13 @@ struct Call {
 
   std::array<List, 3> &lists;
   const Step &s;
-  List &outer = lists[s[1] % 3], &other_outer = lists[s[2] % 3];  // the one that changes first
-  unsigned choice = s[3] + 256u * s[4];                           // of sub-lists, attributes, types, bytes
-  List &list = down(outer, depth(s[5]), choice), &other = down(other_outer, depth(s[6]), choice);
-  const aaa_attr_meta &meta = kMetas[s[7] % 11 < int{std::size(kMetas)} ? s[7] % 11 : 0];
-  std::uint32_t client_type = kClientTypes[s[8] % 7];
-  const Type &type = kTypes[s[9] % 35 < int{std::size(kTypes)} ? s[9] % 35 : s[9] % 6];
+  List &outer = lists[s[kList] % std::size(lists)],
+       &other_outer = lists[s[kOther] % std::size(lists)];  // changes second
+  unsigned choice = s[kChoiceLow] + 256u * s[kChoiceHigh];  // of sub-lists, attributes, types, bytes
+  List &list = down(outer, depth(kDepth), choice), &other = down(other_outer, depth(kOtherDepth), choice);
+  const aaa_attr_meta &meta = kMetas[pick_meta(s)];
+  std::uint32_t client_type = kClientTypes[s[kClient] % std::size(kClientTypes)];
+  const Type &type = kTypes[pick_type(s)];
   ::List made = {};               // to be given away, or to take a list's place; else freed with the call
   std::vector<Attr> inside = {};  // what is in it
   Attr given = attribute();       // of the adding operations; of a Grouped type: without the list
@@ -101,7 +123,8 @@ inline Code add_existing_group_list(Call &c) {
 // By the value of an attribute of the other list, if it has so many, or else the call's own.
 inline Code remove_on_match(Call &c) {
   const Attrs others = live(c.other);
-  if (const std::size_t n = c.choice % 5; n < others.size())
+  constexpr unsigned kReach = 5;
+  if (const std::size_t n = c.choice % kReach; n < others.size())
     c.given = {others[n]->type, value_of(*others[n]), {}, 0, {}};
   return aaa_attr_remove_on_match(c.list, c.given.type, c.given.value.data(), c.length());
 }
@@ -130,11 +153,14 @@ inline Code merge_list(Call &c) {
   return code;
 }
 inline Code filter_on_type(Call &c) {
-  const std::uint32_t types[] = {c.type.number, kTypes[c.choice % 15].number, kTypes[c.choice / 16 % 15].number};
+  constexpr unsigned kCommon = 15;  // types that lists have often
+  const std::uint32_t types[] = {c.type.number, kTypes[c.choice % kCommon].number,
+                                 kTypes[c.choice / 16 % kCommon].number};
   std::vector<Attr> kept;
   for (Attr *a : all(c.outer, [&](auto &b) { return std::count(types, types + 3, b.type); })) kept.push_back(*a);
   c.outer.records = kept;
-  return aaa_attr_filter_on_type(&c.outer.handle, types, 3 + 256 * (c.choice % 3));  // the low byte of the count counts
+  const std::uint32_t unread = 256 * (c.choice % 3);  // of the count only the low byte is read
+  return aaa_attr_filter_on_type(&c.outer.handle, types, unread + std::size(types));
 }
 // A flat buffer carries removed records, too, is read in place, and comes back from the other byte order as it was.
 inline Code flat(Call &c) {
@@ -184,7 +210,8 @@ struct Operation {
   Code (*library)(Call &);
   Code (*model)(Call &);
 };
-// The first four fill lists and are run more often.
+// The first ones fill lists and are run more often.
+inline constexpr std::size_t kFillers = 4;
 inline constexpr Operation kOperations[] = {
     {"add_v1", adding<aaa_attr_add_v1, &Attr::client_type>, give<add>},
     {"add_group_list", add_group_list, give<add>},
@@ -208,9 +235,9 @@ inline constexpr Operation kOperations[] = {
      [](Call &c) { return take_place(c, c.other, copy(c.other)); }},
     {"copy_by_type", [](Call &c) { return aaa_attr_list_copy_by_type(c.other, c.list, c.given.type); },
      [](Call &c) { return copy_by_type(c.other, c.list, c.given.type); }},
-    {"append_list", lists<aaa_attr_list_append_list>, lists<take_over<add, true>>},
-    {"merge_with_replace", lists<aaa_attr_list_merge_with_replace>, lists<take_over<replace<2>, true>>},
-    {"merge_double_dip", lists<aaa_attr_list_merge_double_dip>, lists<take_over<double_dip, false>>},
+    {"append_list", lists<aaa_attr_list_append_list>, lists<take_all<add, true>>},
+    {"merge_with_replace", lists<aaa_attr_list_merge_with_replace>, lists<take_all<replace<2>, true>>},
+    {"merge_double_dip", lists<aaa_attr_list_merge_double_dip>, lists<take_all<double_dip, false>>},
     {"replace_and_add", lists<aaa_attr_list_replace_and_add>, lists<replace_and_add>},
     {"replace_and_add_v1",
      [](Call &c) { return aaa_attr_list_replace_and_add_v1(&c.outer.handle, &c.other_outer.handle); },
@@ -262,10 +289,10 @@ struct World {
       if (aaa_attr_list_buffer_len(list, &size) != 0 || size > 250'000)
         aaa_attr_list_free(std::exchange(list, {::List().release(), {}}));
     Call c{lists, step};
-    const Operation &o = kOperations[step[0] % 42 < int{std::size(kOperations)} ? step[0] % 42 : step[0] % 4];
-    history << "\n  " << o.name << " list " << step[1] % 3 << '/' << c.depth(step[5]) << " other " << step[2] % 3 << '/'
-            << c.depth(step[6]) << " type " << c.type.number << " length " << c.length() << " meta " << &c.meta - kMetas
-            << " client type " << c.client_type << " choice " << c.choice;
+    const Operation &o = kOperations[pick(step[kOperation], std::size(kOperations), 42, kFillers)];
+    history << "\n  " << o.name << " list " << &c.outer - lists.data() << '/' << c.depth(kDepth) << " other "
+            << &c.other_outer - lists.data() << '/' << c.depth(kOtherDepth) << " type " << c.type.number << " length "
+            << c.length() << " meta " << &c.meta - kMetas << " client type " << c.client_type << " choice " << c.choice;
     const Code code = o.library(c);
     agree("code", code, o.model ? o.model(c) : 0);
     for (List &list : lists) compare(list);

@@ -2,9 +2,12 @@
 //
 //   list  := (item ' '?)*
 //   item  := '!'? type '+'? ('=' value | '{' list '}')     '!' removed with its equals before it, '+' with kMeta
-//   type  := T U V (Strings: username, auto-logon-service, addr-pool), N (Binary), G H (Grouped), 0 (the invalid type,
-//   value of 4 bytes) value := text, or '*' for one too long for a usual block: it gets a block of its own, and leaves
-//   no room in it
+//   type  := T U V | N | G H | 0
+//   value := text | '*'
+//
+// T, U and V are Strings (username, auto-logon-service, addr-pool), N is Binary, G and H are Grouped, and 0 is the
+// invalid type, with a value of 4 bytes. '*' is too long for a usual block: it gets one of its own, and leaves no room
+// there.
 #pragma once
 
 #include <array>
