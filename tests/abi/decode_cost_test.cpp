@@ -148,7 +148,12 @@ TEST(DecodeCost, TimeGrowsWithTheInput) {
     for (const Operation &operation : kOperations) {
       // The foreign layout is not read in place, and a TLV buffer is for the decoder only.
       if ((operation.in_place && check(small) != 0) || operation.run(small) != 0) continue;
-      const double small_time = least_time(operation, small), large_time = least_time(operation, large);
+      // A busy machine may slow one of the two down: what grows by a square does so every time.
+      double small_time = 0, large_time = 0;
+      for (int attempt = 0; attempt < 3 && (attempt == 0 || large_time > kTimeGrowthMax * small_time); ++attempt) {
+        small_time = least_time(operation, small);
+        large_time = least_time(operation, large);
+      }
       EXPECT_LE(large_time, kTimeGrowthMax * small_time) << worst.what << ", " << operation.what;
       std::printf("%-42s %-26s %8.3f ms, %5.1f times that of an eighth\n", worst.what, operation.what, large_time * 1e3,
                   large_time / small_time);

@@ -112,23 +112,25 @@ TEST(Growth, IsLinearWhereverTheBlocksLie) {
   constexpr std::uint32_t kCount = 2000;
   const Source small(kCount), large(kGrowth * kCount);
   for (const auto &[name, append] : kAppending) {
-    double times[2];
-    for (const Source *source : {&small, &large})
-      times[source == &large] = least_time(
-          [] {
-            stretches().take_all_back();
-            return 0;
-          },
-          [&, call = append](int) {
-            far_apart = true;
-            {
-              List to(0);
-              aaa_attr_list_alloc(to.out());
-              EXPECT_EQ(call(*source, to), 0u) << name;
-              EXPECT_GT(aaa_attr_list_attr_count(to), 0u) << name;
-            }
-            far_apart = false;
-          });
+    // A busy machine may slow one of the two down: what grows by a square does so every time.
+    double times[2] = {};
+    for (int attempt = 0; attempt < 3 && (attempt == 0 || times[1] > kGrowthMax * times[0]); ++attempt)
+      for (const Source *source : {&small, &large})
+        times[source == &large] = least_time(
+            [] {
+              stretches().take_all_back();
+              return 0;
+            },
+            [&, call = append](int) {
+              far_apart = true;
+              {
+                List to(0);
+                aaa_attr_list_alloc(to.out());
+                EXPECT_EQ(call(*source, to), 0u) << name;
+                EXPECT_GT(aaa_attr_list_attr_count(to), 0u) << name;
+              }
+              far_apart = false;
+            });
     EXPECT_LE(times[1], kGrowthMax * times[0]) << name << " of " << kGrowth << " times as many attributes";
     std::printf("%-32s %8.3f ms, %5.1f times that of an eighth\n", name, times[1] * 1e3, times[1] / times[0]);
   }
