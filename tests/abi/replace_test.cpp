@@ -9,6 +9,7 @@
 #include <functional>
 #include <thread>
 
+#include "support/codes.h"
 #include "support/lists.h"
 
 namespace {
@@ -168,6 +169,20 @@ TEST_F(Replaced, ASecondLookupThatFailsIsReportedAndNothingFreed) {
               std::string("\nCursor init failed in aaa_attr_list_free - ret ") + code);
     table.answer = {};
     EXPECT_EQ(table.live(), 1);
+  }
+}
+
+TEST_F(Replaced, ANewListThatTheTableRefusesIsGivenBack) {
+  const List list;
+  const Bytes buffer = flat_buffer(list);
+  aaa_attr_list_handle made = 77;
+  for (const auto &[status, code] : {std::pair(1u, AAA_ATTR_ERR_BAD_LIST), {2, AAA_ATTR_ERR_STALE_HANDLE}}) {
+    table.answer = {table.blocks.size(), 0, false, status};
+    EXPECT_CODE(code, aaa_attr_list_copy(list, &made));
+    table.answer = {table.blocks.size(), 0, false, status};
+    EXPECT_CODE(code, aaa_attr_buffer_to_list(buffer.data(), static_cast<std::uint32_t>(buffer.size()), &made));
+    table.answer = {};
+    EXPECT_EQ(table.live(), 1) << "a handle is still in the table";
   }
 }
 

@@ -197,6 +197,19 @@ TEST(BufferPrint, NestedListsOfTheirRecords) {
                 "2(2)\nGrouped attribute: 2" + title(148) + "\n1" + number + "2(2)\n3" + number + "3(3)");
 }
 
+// Where a nested list ends in the middle of a record, neither it nor a list after it can be told from other bytes.
+TEST(BufferPrint, EndsAtANestedListThatDoesNotHoldTogether) {
+  const auto grouped = [](char n) { return record(444, n + "\0\0\0hand"s); };
+  Bytes damaged = grouped(3);
+  damaged[4] = 99;  // its length
+  const Bytes buffer = flat({block(kHead | kLast | kGroups, 2, {grouped(1), grouped(2)}),
+                             block(kHead | kLast | kGroups, 1, {damaged}), block(kHead | kLast, 0, {})});
+  const std::string group = ":  Failed AVP      len=  8  ";
+  EXPECT_EQ(printed(aaa_attr_list_buffer_print, buffer.data()),
+            "\nAttribute list: " + std::to_string(reinterpret_cast<std::uintptr_t>(buffer.data())) + "\n1" + group +
+                "1(1)\nGrouped attribute: 1\n2" + group + "2(2)\nGrouped attribute: 2");
+}
+
 TEST(BinToStr, FillsTheRoomThereIs) {
   const std::uint8_t bytes[] = {0x0A, 0xFF, 0x00};
   std::uint32_t length = 77;

@@ -166,13 +166,18 @@ std::string nested(const std::string &innermost, const std::string &before, cons
   return text;
 }
 
-// Groups with the texts from first to last.
-std::string groups(int first, int last) {
+// Items with the numbers from first to last between `before` and `after`.
+std::string items(const char *before, int first, int last, const char *after) {
   std::string text;
-  for (int i = first, step = first < last ? 1 : -1; i != last + step; i += step)
-    text += "G{T=" + std::to_string(i) + "} ";
+  for (int i = first, step = first < last ? 1 : -1; i != last + step; i += step) {
+    text += before;
+    text += std::to_string(i);
+    text += after;
+  }
   return text;
 }
+std::string groups(int first, int last) { return items("G{T=", first, last, "} "); }
+std::string values(int first, int last) { return items("N=", first, last, " "); }
 
 TEST(Equality, ComparesSetsOfAttributesAndLeavesNoTrace) {
   const std::tuple<std::string, std::string, bool, std::string> rows[] = {
@@ -183,6 +188,16 @@ TEST(Equality, ComparesSetsOfAttributesAndLeavesNoTrace) {
       {"H{G{T=a} G{T=b}} H{G{T=c}}", "H{G{T=c} G{T=c}} H{G{T=b} G{T=a}}", true, "shuffled at two levels"},
       {groups(0, 699), groups(699, 0), true, "a great many in opposite order"},
       {groups(0, 699), groups(699, 1), false, "one of a great many"},
+      {"T=x U=y", "U=y T=x", true, "few, in opposite order"},
+      {"T=x U=y U=z", "U=z T=x", false, "few, one is missing"},
+      {"T=x U=y U=y", "U=y T=x T=x", true, "few, others repeated"},
+      {"T=x U=y", "U=y T=x !V=z", true, "few, a removed one does not count"},
+      {"T+=x", "T=x", false, "meta on one side, in order"},
+      {"T+=x U=y", "U=y T=x", false, "meta on one side, few in another order"},
+      {values(0, 299) + "T=x", values(299, 0) + "T=x", true, "many in opposite order"},
+      {values(0, 299) + "T=x", values(299, 0) + "T=y", false, "one of many"},
+      {values(0, 299) + "T=x", values(299, 0) + "T+=x", false, "meta on one side, many in another order"},
+      {values(0, 299), values(299, 0) + values(7, 9), true, "many, some repeated"},
       {nested("", "T=x ", ""), nested("", "", " T=x"), true, "opposite order"},
       {nested("U=a", "T=x ", ""), nested("U=b", "", " T=x"), false, "opposite order, another innermost list"},
       {nested("U=a", "", ""), nested("U=b", "", ""), false, "the same order, another innermost list"},
@@ -212,6 +227,13 @@ TEST(Equality, ComparesEveryByteOfTheMeta) {
     *Block(other).at(24 + 8 + byte) ^= 0x80;
     EXPECT_EQ(aaa_attr_list_eq(list, other), 1) << byte;
   }
+  // The bytes of the meta as a value are no meta.
+  List with, without;
+  const std::string_view bytes(reinterpret_cast<const char *>(&kMeta), sizeof kMeta);
+  with.text(type::kBinary, bytes, &kMeta);
+  without.text(type::kBinary, bytes);
+  EXPECT_EQ(aaa_attr_list_eq(with, without), 0);
+  EXPECT_EQ(aaa_attr_list_eq(without, with), 0);
 }
 
 }  // namespace

@@ -26,6 +26,15 @@ TEST(Ipv6Text, AgreesWithTheSystem) {
     }
 }
 
+TEST(Ipv6Text, WritesNothingWithoutAnAddressOrRoom) {
+  const std::uint8_t address[16] = {};
+  char text[] = "as it was";
+  EXPECT_EQ(ipv6_address_to_string(nullptr, text), text);
+  EXPECT_STREQ(text, "as it was");
+  EXPECT_EQ(ipv6_address_to_string(address, nullptr), nullptr);
+  EXPECT_EQ(aaa_attr_ipv6_address_to_string(nullptr, text), text);
+}
+
 bool aligned(const void *memory) { return reinterpret_cast<std::uintptr_t>(memory) % alignof(std::max_align_t) == 0; }
 
 TEST(MallocPc, TheOwnerOutlivesWhateverIsWritten) {
