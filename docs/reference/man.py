@@ -245,12 +245,14 @@ def errors(manual, sections):
     if not groups:
         return
     manual.macro("SH", "ERRORS")
+    manual.raw("A null pointer where a function needs one gives")
+    manual.raw(".BR AAA_ATTR_ERR_BAD_ARG ,\nunless it says otherwise.")
     comments = [s.comment for s in sections] + [item.comment for _, item in groups]
     if any("of the handle" in text for comment in comments for _, text in comment.codes):
         handle_codes(manual)
     for section in sections:
         if section.comment.codes:
-            manual.macro("SS", "All of " + section.title if len(sections) > 1 else "All functions")
+            manual.macro("SS", section.title + ": all that return a code" if len(sections) > 1 else "All that return a code")
             write_codes(manual, section.comment.codes)
     for section, item in groups:
         if any(code or not text.startswith("Always") for code, text in item.comment.codes):

@@ -187,7 +187,7 @@ AAA_API aaa_attr_cerrno aaa_attr_get_uint64_t(aaa_attr_list_handle list, uint32_
 
 /* Reads the first 4 bytes of the cursor's current attribute as a number.
    cursor: a cursor over a list or a buffer, aaa_cursor.h.
-   AAA_ATTR_ERR_BAD_ARG: no current attribute, or its value is shorter. */
+   AAA_ATTR_ERR_BAD_ARG: no current attribute, or its value is shorter; it gives no other code. */
 AAA_API aaa_attr_cerrno aaa_attr_get_ulong_val(const aaa_cursor *cursor, uint32_t *value) AAA_NOEXCEPT;
 
 /* ---- Removing ----
@@ -239,7 +239,7 @@ AAA_API aaa_attr_cerrno aaa_attr_list_remove_common_attrs(aaa_attr_list_handle l
    destination  the list that receives attributes
    source       the list whose attributes are added
 
-   AAA_ATTR_ERR_BAD_ARG: a handle is 0, or both name the same list.
+   AAA_ATTR_ERR_BAD_ARG: a handle is 0, for which some give AAA_ATTR_ERR_BAD_LIST; both name the same list.
    Codes of the source's handle, of adding to the destination (looked at when the first attribute is added) and of
    copying sub-lists. */
 
@@ -247,8 +247,7 @@ AAA_API aaa_attr_cerrno aaa_attr_list_remove_common_attrs(aaa_attr_list_handle l
    copy: the handle of the copy, written on success only.
    Owner: the caller, until aaa_attr_list_free.
    AAA_ATTR_ERR_NO_MEMORY: no block or no handle.
-   AAA_ATTR_ERR_BAD_LIST: handle 0, or a block of another layout version, which a decoded list
-   may have.
+   AAA_ATTR_ERR_BAD_LIST: handle 0, or a block of another layout version, which a decoded list may have.
    Codes of the handles. */
 AAA_MUST_CHECK aaa_attr_cerrno aaa_attr_list_copy(aaa_attr_list_handle source, aaa_attr_list_handle *copy) AAA_NOEXCEPT;
 
@@ -297,9 +296,9 @@ AAA_MUST_CHECK aaa_attr_cerrno aaa_attr_list_merge_list(aaa_attr_list_handle des
    types: the types to keep.
    count: how many; only the low 8 bits are used.
    Owner: the caller, of the new list in place of the old one.
-   AAA_ATTR_ERR_BAD_ARG: list null, or types null and a count not 0. AAA_ATTR_ERR_BAD_LIST: *list is 0. Codes of the
-   handle. AAA_ATTR_ERR_NO_MEMORY, and codes of adding for what a decoded list may hold: *list stays and the attributes
-   are dropped, but the list is not rebuilt. */
+   AAA_ATTR_ERR_BAD_ARG: list null, or types null and a count not 0. AAA_ATTR_ERR_BAD_LIST: *list is 0.
+   AAA_ATTR_ERR_NO_MEMORY: *list stays and the attributes are dropped, but the list is not rebuilt.
+   Codes of the handle, and of adding for what a decoded list may hold, with the same effect. */
 AAA_MUST_CHECK aaa_attr_cerrno aaa_attr_filter_on_type(aaa_attr_list_handle *list, const uint32_t *types,
                                                        uint32_t count) AAA_NOEXCEPT;
 
