@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Fails with a sentence for each link of a page that leads nowhere, and each file that it names and that is not there.
+"""Fails with a sentence for each link of a page that leads nowhere, for each file that it names and that is not there, and
+for each page that the index.md beside it does not lead to.
 
     links.py PAGE...      pages of the repository, from its top folder
 """
@@ -31,6 +32,10 @@ def complaints(page):
             yield f"links to {link}, which is not there"
         elif anchor and target.suffix == ".md" and anchor not in anchors(target.read_text()):
             yield f"links to {link}, a heading that {target} does not have"
+    if page.name == "index.md":
+        for other in sorted(page.parent.glob("*.md")):
+            if f"]({other.name}" not in text and other != page:
+                yield f"does not lead to {other.name}"
     for name in NAMED.findall(text):
         if not any((folder / name).exists() for folder in (pathlib.Path("."), *page.parents)):
             yield f"names {name}, which is not there"
