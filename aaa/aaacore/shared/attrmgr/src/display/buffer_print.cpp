@@ -5,9 +5,10 @@
 #include <attrmgr/aaa_attr_marshal.h>
 
 #include "aaa_attr/cursor/pooled_cursor.h"
+#include "aaa_attr/store/sub_list.h"
 #include "aaa_attr/walk/flat_reader.h"
+#include "dictionary/li_set.h"
 #include "display/render.h"
-#include "display/shown.h"
 
 namespace attrmgr {
 namespace {
@@ -49,7 +50,7 @@ void print_list(const std::byte *first_block) {
   NestedLists nested;
   int number = 0;
   while (const RecordView record = cursor.next()) {
-    if (!is_shown(record)) continue;
+    if (hidden_from_display(record.type())) continue;
     print_attribute(record, ++number);
     if (!holds_handle(record)) continue;
     // The sender's handle: something to tell it by, and never followed.

@@ -3,8 +3,8 @@
 
 #include "aaa_attr/cursor/pooled_cursor.h"
 #include "aaa_attr/store/attribute.h"
+#include "dictionary/li_set.h"
 #include "display/render.h"
-#include "display/shown.h"
 
 namespace attrmgr {
 namespace {
@@ -54,7 +54,7 @@ void aaa_display_summ_attr_list_fn(aaa_attr_list_handle list, std::uint32_t, aaa
   if (cursor.error()) return;
   Summary summary;
   while (const RecordView record = cursor.next())
-    if (is_shown(record)) summary.add(record, reported_length(record));
+    if (!hidden_from_display(record.type())) summary.add(record, reported_length(record));
   if (output == nullptr) return;
   TextLine<kLineSize> line;
   summary.put_into(line);

@@ -9,18 +9,24 @@
 namespace attrmgr {
 namespace {
 
-Error find(aaa_attr_list_handle list, std::uint32_t type, std::uint32_t n, RecordView *found) {
+// The n-th record of the type, or an error and a null record.
+struct [[nodiscard]] Found {
+  RecordView record;
+  Error error;
+};
+
+Found find(aaa_attr_list_handle list, std::uint32_t type, std::uint32_t n) {
   const auto [head, error] = resolve(list);
-  if (error) return error;
-  *found = find_nth(head, type, n);
-  return *found ? 0 : AAA_ATTR_ERR_NOT_FOUND;
+  if (error) return {{}, error};
+  const RecordView record = find_nth(head, type, n);
+  return {record, record ? 0 : AAA_ATTR_ERR_NOT_FOUND};
 }
 
 Error get(aaa_attr_list_handle list, std::uint32_t type, std::uint32_t n, const void **value, std::uint32_t *length) {
-  RecordView found;
-  if (const Error error = find(list, type, n, &found)) return error;
-  *value = found.value();
-  *length = reported_length(found);
+  const auto [record, error] = find(list, type, n);
+  if (!record) return error;
+  *value = record.value();
+  *length = reported_length(record);
   return 0;
 }
 
@@ -28,10 +34,10 @@ Error get(aaa_attr_list_handle list, std::uint32_t type, std::uint32_t n, const 
 template <class T>
 Error get_number(aaa_attr_list_handle list, std::uint32_t type, T *value) {
   if (value == nullptr) return AAA_ATTR_ERR_BAD_ARG;
-  RecordView found;
-  if (const Error error = find(list, type, 0, &found)) return error;
-  if (found.length() != sizeof(T)) return AAA_ATTR_ERR_BAD_ARG;
-  *value = load<T>(found.value());
+  const auto [record, error] = find(list, type, 0);
+  if (!record) return error;
+  if (record.length() != sizeof(T)) return AAA_ATTR_ERR_BAD_ARG;
+  *value = load<T>(record.value());
   return 0;
 }
 
@@ -41,8 +47,7 @@ Error get_number(aaa_attr_list_handle list, std::uint32_t type, T *value) {
 using namespace attrmgr;
 
 int aaa_attr_is_present(aaa_attr_list_handle list, std::uint32_t type) noexcept {
-  RecordView found;
-  return !find(list, type, 0, &found);
+  return static_cast<bool>(find(list, type, 0).record);
 }
 
 aaa_attr_cerrno aaa_attr_find_attr_type_number(aaa_attr_list_handle list, std::uint32_t type,
