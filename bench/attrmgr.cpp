@@ -24,7 +24,7 @@ class Attrmgr {
     aaa_attr_list_alloc(&list);
     for (const bench::Attributes &group : groups) {
       List sub_list;
-      aaa_attr_add_group_list(list, &sub_list, kGroupType, nullptr);
+      (void)aaa_attr_add_group_list(list, &sub_list, kGroupType, nullptr);
       add_all(sub_list, group);
     }
     return list;
@@ -45,13 +45,13 @@ class Attrmgr {
 
   static std::size_t size_and_encode(List list, std::byte *buffer, std::size_t) {
     std::uint32_t length = 0;
-    aaa_attr_list_to_buffer_v1(list, nullptr, &length);
+    (void)aaa_attr_list_to_buffer_v1(list, nullptr, &length);
     return aaa_attr_list_to_buffer_v1(list, buffer, &length) == 0 ? length : 0;
   }
 
   static List decode(const std::byte *bytes, std::size_t size) {
     List list = 0;
-    aaa_attr_buffer_to_list(bytes, static_cast<std::uint32_t>(size), &list);
+    (void)aaa_attr_buffer_to_list(bytes, static_cast<std::uint32_t>(size), &list);
     return list;
   }
 
@@ -71,11 +71,11 @@ class Attrmgr {
 
   static List copy(List list) {
     List made = 0;
-    aaa_attr_list_copy(list, &made);
+    (void)aaa_attr_list_copy(list, &made);
     return made;
   }
 
-  static void merge(List into, List from) { aaa_attr_list_merge_with_replace(into, from); }
+  static void merge(List into, List from) { (void)aaa_attr_list_merge_with_replace(into, from); }
   static void remove(List from, List types) { aaa_attr_list_remove_list(from, types); }
   static bool equal(List list1, List list2) { return aaa_attr_list_eq(list1, list2) != 0; }
 
@@ -88,14 +88,14 @@ class Attrmgr {
   }
 
   static void translate(std::byte *buffer, std::size_t, bool there) {
-    aaa_attrs_buffer_tran(reinterpret_cast<char *>(buffer), there ? CDM_ENDIAN_TRAN_HTON : CDM_ENDIAN_TRAN_NTOH);
+    (void)aaa_attrs_buffer_tran(reinterpret_cast<char *>(buffer), there ? CDM_ENDIAN_TRAN_HTON : CDM_ENDIAN_TRAN_NTOH);
   }
 
  private:
   static void add_all(List list, const bench::Attributes &attributes) {
     for (const bench::Attribute &attribute : attributes)
-      aaa_attr_add(list, attribute.type, attribute.value.data(), static_cast<std::uint32_t>(attribute.value.size()),
-                   nullptr);
+      (void)aaa_attr_add(list, attribute.type, attribute.value.data(),
+                         static_cast<std::uint32_t>(attribute.value.size()), nullptr);
   }
 };
 

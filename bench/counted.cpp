@@ -21,32 +21,32 @@ List build(const Attributes &attributes) {
   List list = 0;
   aaa_attr_list_alloc(&list);
   for (const bench::Attribute &attribute : attributes)
-    aaa_attr_add(list, attribute.type, attribute.value.data(), static_cast<std::uint32_t>(attribute.value.size()),
-                 nullptr);
+    (void)aaa_attr_add(list, attribute.type, attribute.value.data(), static_cast<std::uint32_t>(attribute.value.size()),
+                       nullptr);
   return list;
 }
 
 List copy(List list) {
   List made = 0;
-  aaa_attr_list_copy(list, &made);
+  (void)aaa_attr_list_copy(list, &made);
   return made;
 }
 
 std::uint32_t encode(List list) {
   std::uint32_t length = kBufferSize;
-  aaa_attr_list_to_buffer(list, buffer, &length);
+  (void)aaa_attr_list_to_buffer(list, buffer, &length);
   return length;
 }
 
 std::uint32_t encode_tlv(List list) {
   std::uint32_t length = kBufferSize;
-  aaa_attr_list_tlv_to_buffer(list, buffer, &length);
+  (void)aaa_attr_list_tlv_to_buffer(list, buffer, &length);
   return length;
 }
 
 List decode(std::uint32_t length) {
   List list = 0;
-  aaa_attr_buffer_to_list(buffer, length, &list);
+  (void)aaa_attr_buffer_to_list(buffer, length, &list);
   return list;
 }
 
@@ -70,7 +70,7 @@ COUNTED std::uint32_t counted_encode_tlv(List list) { return encode_tlv(list); }
 COUNTED List counted_decode(std::uint32_t length) { return decode(length); }
 COUNTED List counted_decode_tlv(std::uint32_t length) { return decode(length); }
 COUNTED List counted_copy(List list) { return copy(list); }
-COUNTED void counted_merge(List into, List from) { aaa_attr_list_merge_with_replace(into, from); }
+COUNTED void counted_merge(List into, List from) { (void)aaa_attr_list_merge_with_replace(into, from); }
 COUNTED void counted_remove(List from, List types) { aaa_attr_list_remove_list(from, types); }
 COUNTED bool counted_equal(List list1, List list2) { return aaa_attr_list_eq(list1, list2) != 0; }
 COUNTED void counted_render(List list, char *text, std::int32_t size) {

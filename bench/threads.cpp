@@ -32,10 +32,10 @@ void exchange(benchmark::State &state) {
     aaa_attr_list_handle list = 0;
     aaa_attr_list_alloc(&list);
     for (const bench::Attribute &attribute : attributes)
-      aaa_attr_add(list, attribute.type, attribute.value.data(), static_cast<std::uint32_t>(attribute.value.size()),
-                   nullptr);
+      (void)aaa_attr_add(list, attribute.type, attribute.value.data(),
+                         static_cast<std::uint32_t>(attribute.value.size()), nullptr);
     std::uint32_t length = sizeof buffer;
-    aaa_attr_list_to_buffer(list, buffer, &length);
+    (void)aaa_attr_list_to_buffer(list, buffer, &length);
     aaa_attr_list_free(list);
     aaa_attr_list_handle received = 0;
     if (aaa_attr_buffer_to_list(buffer, length, &received) != 0) state.SkipWithError("does not decode");

@@ -52,14 +52,14 @@ SIDE void add_c(aaa_attr_list_handle to, const Items &items) {
   for (const Item &item : items) {
     switch (item.kind) {
       case Item::kUser:
-        aaa_attr_add(to, AAA_ATTR_TYPE_USERNAME, item.text.data(), static_cast<std::uint32_t>(item.text.size()),
-                     nullptr);
+        (void)aaa_attr_add(to, AAA_ATTR_TYPE_USERNAME, item.text.data(), static_cast<std::uint32_t>(item.text.size()),
+                           nullptr);
         break;
       case Item::kMtu:
-        aaa_attr_add(to, AAA_ATTR_TYPE_FRAMED_MTU, &item.number, sizeof item.number, nullptr);
+        (void)aaa_attr_add(to, AAA_ATTR_TYPE_FRAMED_MTU, &item.number, sizeof item.number, nullptr);
         break;
       case Item::kAddress:
-        aaa_attr_add(to, AAA_ATTR_TYPE_ADDR, &item.address, sizeof item.address, nullptr);
+        (void)aaa_attr_add(to, AAA_ATTR_TYPE_ADDR, &item.address, sizeof item.address, nullptr);
         break;
     }
   }

@@ -59,7 +59,7 @@ List list_of_groups() {
 
 std::vector<char> flat(List list) {
   std::uint32_t size = 0;
-  aaa_attr_list_to_buffer(list, nullptr, &size);
+  (void)aaa_attr_list_to_buffer(list, nullptr, &size);
   std::vector<char> buffer(size);
   check(aaa_attr_list_to_buffer(list, buffer.data(), &size) == 0);
   return buffer;

@@ -68,7 +68,7 @@ constexpr bool author_rows_agree() {
 
 static_assert(every_row_stands_at_its_number());
 #define KNOWN(constant, number, type_name) \
-  static_assert(kTypes[number].name == type_name, "known_types.def: not the name that attr_types.def has");
+  static_assert(kTypes[(number)].name == (type_name), "known_types.def: not the name that attr_types.def has");
 #include "dictionary/known_types.def"
 #undef KNOWN
 static_assert(std::size(kAuthorRows) == AAA_AUTHOR_TYPES);

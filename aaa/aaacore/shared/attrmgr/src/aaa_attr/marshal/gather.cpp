@@ -46,7 +46,7 @@ using namespace attrmgr;
 aaa_attr_cerrno aaa_attr_list_to_array(aaa_attr_list_handle list, aaa_attr_array_entry **array,
                                        std::uint32_t *count) noexcept {
   if (count == nullptr) return AAA_ATTR_ERR_BAD_ARG;
-  std::uint32_t needed;
+  std::uint32_t needed = 1;  // the marker
   if (const Error error = count_entries(list, &needed)) return error.code;
   const std::uint32_t capacity = *count;
   if (array == nullptr || (capacity != 0 && (capacity < needed || *array == nullptr))) {

@@ -72,7 +72,7 @@ Error write_body(aaa_attr_list_handle list, ByteWriter &writer) {
 }
 
 Error encode(aaa_attr_list_handle list, void *buffer, std::uint32_t *size) {
-  std::uint32_t records;
+  std::uint32_t records = 0;
   if (const Error error = measure(list, &records)) {
     if (error == AAA_ATTR_ERR_BAD_FORMAT) *size = 0;  // no buffer can be large enough
     return error;

@@ -174,7 +174,7 @@ bool FlatReader<Form, kRules, Fault>::refuse_records() {
 // The record passes the used bytes: which of its fields is it?
 template <class Form, FlatRules kRules, class Fault>
 bool FlatReader<Form, kRules, Fault>::refuse_cut_record(Record record) {
-  const std::size_t left = static_cast<std::size_t>(block_.end() - record.bytes());
+  const auto left = static_cast<std::size_t>(block_.end() - record.bytes());
   if (left < kRecordHeaderSize) return refuse(AAA_ATTR_RULE_RECORD_HEADER, record.bytes());
   if (left < record.value_at()) return refuse(AAA_ATTR_RULE_RECORD_META, record.bytes() + kRecordFlagsAt);
   return refuse(AAA_ATTR_RULE_RECORD_LENGTH, record.bytes() + kRecordLengthAt);
