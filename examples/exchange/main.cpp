@@ -1,6 +1,6 @@
-// exchange FILE: reads attributes from a text file (attr_text.h) into a list and hands the list to a second process,
-// in turn as a flat buffer, as a gather list and as a TLV buffer. The second process rebuilds the list, prints it and
-// sends it back; the first compares.
+// exchange FILE: reads attributes from a text file (docs/text-format.md) into a list and hands the list to a second
+// process, in turn as a flat buffer, as a gather list and as a TLV buffer. The second process rebuilds the list, prints
+// it and sends it back; the first compares.
 #include <sys/wait.h>
 #include <unistd.h>
 #include <attrmgr/attrmgr.hpp>
@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <exception>
 #include <fstream>
+#include <iterator>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -17,8 +18,8 @@
 #include <utility>
 #include <variant>
 
-#include "attr_text.h"
 #include "channel.h"
+#include "text/text_reader.h"
 
 namespace {
 
@@ -88,10 +89,11 @@ int run_receiver(Channel &channel) {
 std::optional<attrmgr::list> read_file(const char *path) {
   std::ifstream file(path);
   if (!file) throw std::system_error(errno, std::generic_category(), std::string("cannot open ") + path);
-  auto read = list_from_text(file);
+  const std::string text{std::istreambuf_iterator<char>(file), {}};
   if (file.bad()) throw std::runtime_error(std::string("cannot read ") + path);
-  if (const auto *bad = std::get_if<BadLine>(&read)) {
-    std::fprintf(stderr, "%s:%u: %s\n", path, bad->line, bad->reason.c_str());
+  auto read = attrtext::list_from_text(text);
+  if (const auto *bad = std::get_if<attrtext::BadPlace>(&read)) {
+    std::fprintf(stderr, "%s:%s\n", path, to_string(*bad).c_str());
     return std::nullopt;
   }
   return std::get<attrmgr::list>(std::move(read));

@@ -1,16 +1,14 @@
-#include "values.h"
-
-#include <arpa/inet.h>
-#include <attrmgr/aaa_attr_dict.h>
-#include <attrmgr/aaa_attr_marshal.h>
-#include <attrmgr/aaa_attr_names.h>
+#include <attrmgr/attrmgr.hpp>
 
 #include <charconv>
 #include <cstring>
 #include <ctime>
-#include <initializer_list>
 #include <limits>
 
+#include "nearest.h"
+#include "values.h"
+
+namespace attrtext {
 namespace {
 
 template <class Number>
@@ -28,19 +26,7 @@ Bytes bytes_of(Number number) {
   return bytes;
 }
 
-// ---- Hexadecimal digits and text ----
-
-std::optional<Bytes> hex_bytes(std::string_view text) {
-  std::string digits(text);
-  std::erase_if(digits, [](char c) { return c == ' ' || c == '\t' || c == ':'; });
-  Bytes bytes;
-  for (std::size_t i = 0; i < digits.size(); i += 2) {
-    const auto byte = whole_number<std::uint8_t>(std::string_view(digits).substr(i, 2), 16);
-    if (!byte || i + 1 == digits.size()) return std::nullopt;
-    bytes.push_back(*byte);
-  }
-  return bytes.empty() ? std::nullopt : std::optional(bytes);
-}
+// ---- Text ----
 
 // The character that the escape at the front of `rest` stands for; takes the escape off.
 char take_escape(std::string_view &rest) {
@@ -74,13 +60,8 @@ std::string unquote(std::string_view text) {
   return plain;
 }
 
-std::string plain_text(std::string_view text) { return text.front() == '"' ? unquote(text) : std::string(text); }
-
-Bytes string_value(std::string_view text) {
-  const std::string plain = plain_text(text);
-  if (plain.empty()) throw BadText("expected at least one character between the quotes");
-  return Bytes(plain.begin(), plain.end());
-}
+// The text with its quotes and escapes taken off, if it has any.
+std::string without_quotes(std::string_view text) { return text.starts_with('"') ? unquote(text) : std::string(text); }
 
 // ---- Numbers ----
 
@@ -89,15 +70,14 @@ Bytes number_value(std::string_view text) {
   return bytes_of(static_cast<Number>(required_number(text, std::numeric_limits<Number>::max())));
 }
 
-Bytes enum_value(std::uint32_t type, std::string_view text) {
-  const std::string wanted = plain_text(text);
+Bytes enum_value(std::uint32_t type, std::string_view name, std::string_view place) {
   std::uint32_t value = 0;
-  if (aaa_attr_get_value_from_enum_name(type, wanted.c_str(), &value) == 0) return bytes_of(value);
-  const char *last = "";
-  while (const char *name = aaa_attr_get_enum_name_from_type(type, value++)) last = name;
-  const auto number = number_from_text(wanted, std::numeric_limits<std::uint32_t>::max());
-  if (!number) throw unexpected("a number or a value name such as " + quoted(last), wanted);
-  return bytes_of(static_cast<std::uint32_t>(*number));
+  const bool whole = name.find('\0') == std::string_view::npos;
+  if (whole && aaa_attr_get_value_from_enum_name(type, std::string(name).c_str(), &value) == 0) return bytes_of(value);
+  if (const auto number = number_from_text(name, std::numeric_limits<std::uint32_t>::max()))
+    return bytes_of(static_cast<std::uint32_t>(*number));
+  throw BadText(
+      "expected a number or a value name" + such_as(nearest_values(type, name)) + ", found " + in_quotes(name), place);
 }
 
 Bytes boolean_value(std::string_view text) {
@@ -107,31 +87,26 @@ Bytes boolean_value(std::string_view text) {
 
 // ---- Addresses ----
 
-std::optional<Bytes> address(int family, std::string_view text) {
-  Bytes bytes(family == AF_INET ? 4 : AAA_IPV6_ADDRESS_SIZE);
-  if (inet_pton(family, std::string(text).c_str(), bytes.data()) != 1) return std::nullopt;
-  return bytes;
-}
-
-Bytes address_value(std::string_view text, std::initializer_list<int> families, const char *expected) {
-  for (const int family : families)
-    if (const auto bytes = address(family, text)) return *bytes;
-  throw unexpected(expected, text);
+Bytes address_value(std::string_view text, bool v4, bool v6, const char *expected) {
+  const attrmgr::address parsed = attrmgr::address::parse(text);
+  if (!(parsed.is_v4() && v4) && !(parsed.is_v6() && v6)) throw unexpected(expected, text);
+  return {parsed.data(), parsed.data() + parsed.size()};
 }
 
 Bytes prefix_value(std::string_view text) {
   const std::size_t slash = text.find('/');
-  const auto ipv6 = address(AF_INET6, text.substr(0, slash));
+  const attrmgr::address ipv6 = attrmgr::address::parse(text.substr(0, slash));
   const auto length = number_from_text(text.substr(slash + 1), 128);
-  if (!ipv6 || !length) throw unexpected("an IPv6 prefix such as 2001:db8::/56", text);
+  if (!ipv6.is_v6() || !length) throw unexpected("an IPv6 prefix such as 2001:db8::/56", text);
   Bytes value(AAA_IPV6_PREFIX_SIZE);
-  aaa_attr_encode_ipv6_prefix(ipv6->data(), static_cast<std::int32_t>(*length), value.data());
+  aaa_attr_encode_ipv6_prefix(ipv6.data(), static_cast<std::int32_t>(*length), value.data());
 
   // Decoding clears what lies beyond the prefix length; there must be nothing to clear.
-  Bytes cleared(AAA_IPV6_ADDRESS_SIZE);
+  std::uint8_t cleared[AAA_IPV6_ADDRESS_SIZE];
   std::uint8_t bits = 0;
-  aaa_attr_decode_ipv6_prefix(value.data(), cleared.data(), &bits);
-  if (cleared != *ipv6) throw unexpected("zero bits after the prefix length", text);
+  aaa_attr_decode_ipv6_prefix(value.data(), cleared, &bits);
+  if (std::memcmp(cleared, ipv6.data(), sizeof cleared) != 0)
+    throw unexpected("zero bits after the prefix length", text);
   return value;
 }
 
@@ -161,15 +136,31 @@ Bytes time_value(std::string_view text) {
   throw unexpected("a time such as 2026-11-22T09:30:00Z or a number of seconds", text);
 }
 
-}  // namespace
+// ---- Any format ----
 
-BadText unexpected(const std::string &expected, std::string_view found) {
-  return BadText("expected " + expected + ", found " + quoted(found));
+// What is between < and >.
+Bytes stored_bytes(std::string_view text) {
+  if (text == kOpaqueValue)
+    throw BadText("the value is a secret that was left out here: expected the value itself", text);
+  if (text == "<>") return {};
+  const bool closed = text.ends_with('>');
+  const auto bytes = hex_bytes(text.substr(1, text.size() - (closed ? 2 : 1)));
+  if (closed && bytes) return *bytes;
+  throw unexpected("pairs of hexadecimal digits between < and >, or quotes around a text that begins with <", text);
 }
 
-std::string quoted(std::string_view text) {
-  constexpr std::size_t kShown = 60;
-  return '"' + std::string(text.substr(0, kShown)) + (text.size() > kShown ? "...\"" : "\"");
+}  // namespace
+
+std::optional<Bytes> hex_bytes(std::string_view text) {
+  std::string digits(text);
+  std::erase_if(digits, [](char c) { return c == ' ' || c == '\t' || c == ':'; });
+  Bytes bytes;
+  for (std::size_t i = 0; i < digits.size(); i += 2) {
+    const auto byte = whole_number<std::uint8_t>(std::string_view(digits).substr(i, 2), 16);
+    if (!byte || i + 1 == digits.size()) return std::nullopt;
+    bytes.push_back(*byte);
+  }
+  return bytes.empty() ? std::nullopt : std::optional(bytes);
 }
 
 std::optional<std::uint64_t> number_from_text(std::string_view text, std::uint64_t max) {
@@ -183,29 +174,47 @@ std::uint64_t required_number(std::string_view text, std::uint64_t max) {
   throw unexpected("a number from 0 to " + std::to_string(max), text);
 }
 
-Bytes value_from_text(std::uint32_t type, std::string_view text) {
-  if (text.empty()) throw BadText("expected a value after '='");
+Bytes value_from_plain(std::uint32_t type, std::string_view plain) {
   switch (aaa_attr_get_format_from_type(type)) {
     case AAA_ATTR_FMT_STRING:
     case AAA_ATTR_FMT_STRING_ATTR:
-      return string_value(text);
+      return {plain.begin(), plain.end()};
     case AAA_ATTR_FMT_ULONG:
-      return number_value<std::uint32_t>(text);
+      return number_value<std::uint32_t>(plain);
     case AAA_ATTR_FMT_ULONGLONG:
-      return number_value<std::uint64_t>(text);
+      return number_value<std::uint64_t>(plain);
     case AAA_ATTR_FMT_ENUM:
-      return enum_value(type, text);
+      return enum_value(type, plain, plain);
     case AAA_ATTR_FMT_IPV4:
-      return address_value(text, {AF_INET}, "an IPv4 address");
+      return address_value(plain, true, false, "an IPv4 address");
     case AAA_ATTR_FMT_IPV6:
-      return address_value(text, {AF_INET6}, "an IPv6 address");
+      return address_value(plain, false, true, "an IPv6 address");
     case AAA_ATTR_FMT_ADDRESS:
-      return address_value(text, {AF_INET, AF_INET6}, "an IPv4 or IPv6 address");
+      return address_value(plain, true, true, "an IPv4 or IPv6 address");
     case AAA_ATTR_FMT_UTC:
-      return time_value(text);
+      return time_value(plain);
     case AAA_ATTR_FMT_BOOLEAN:
-      return boolean_value(text);
+      return boolean_value(plain);
     default:
-      return binary_value(type, text);
+      return binary_value(type, plain);
   }
 }
+
+Bytes value_from_text(std::uint32_t type, std::string_view text) {
+  if (text.empty()) throw BadText("expected a value after '='", text);
+  if (text.starts_with('<')) return stored_bytes(text);
+  switch (aaa_attr_get_format_from_type(type)) {
+    case AAA_ATTR_FMT_STRING:
+    case AAA_ATTR_FMT_STRING_ATTR: {
+      const std::string plain = without_quotes(text);
+      if (plain.empty()) throw BadText("expected at least one character between the quotes", text);
+      return {plain.begin(), plain.end()};
+    }
+    case AAA_ATTR_FMT_ENUM:
+      return enum_value(type, without_quotes(text), text);
+    default:
+      return value_from_plain(type, text);
+  }
+}
+
+}  // namespace attrtext
