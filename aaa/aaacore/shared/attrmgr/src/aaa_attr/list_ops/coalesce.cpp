@@ -76,11 +76,8 @@ void pack_all(BlockView head) {
 
 }  // namespace
 
-Error aaa_attr_list_coalesce(aaa_attr_list_handle list) {
-  const auto [head, error] = resolve(list);
-  if (error) return error;
-  if (head.block_count() == 0) return 0;
-  if ((head.own_word() & (kMayNeedPacking | kTailsAreClear)) == kTailsAreClear) return 0;
+void pack_and_clear(BlockView head) {
+  if (head.block_count() == 0) return;
   if (noted(head, kMayNeedPacking)) {
     pack_all(head);
   } else if (!noted(head, kTailsAreClear)) {
@@ -88,7 +85,6 @@ Error aaa_attr_list_coalesce(aaa_attr_list_handle list) {
   }
   rule_out(head, kMayNeedPacking);
   note(head, kTailsAreClear);
-  return 0;
 }
 
 }  // namespace attrmgr
