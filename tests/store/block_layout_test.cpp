@@ -6,7 +6,7 @@
 
 namespace {
 
-TEST(BlockLayout, RecordsArePackedBehindTheHeader) {
+TEST(BlockLayout, RecordsArePackedAfterTheHeader) {
   List list;
   const std::uint32_t number = 0x12345678;
   const aaa_attr_meta meta = {3, 7, 0x0A0B, 0x8001, 0x0C0D};
@@ -34,6 +34,8 @@ TEST(BlockLayout, RecordsArePackedBehindTheHeader) {
   std::uint8_t discriminator[3] = {0, 0, 0xEE};
   aaa_attr_discrim_pack(discriminator, 3, 250);
   EXPECT_EQ(Bytes(discriminator, discriminator + 3), hex("03 fa ee"));
+  aaa_attr_discrim_init(discriminator);
+  EXPECT_EQ(Bytes(discriminator, discriminator + 3), hex("00 00 ee"));
 }
 
 TEST(BlockLayout, RecordsFillTheLastBlockAndChainTheNext) {
