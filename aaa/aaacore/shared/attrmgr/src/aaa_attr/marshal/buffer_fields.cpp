@@ -75,7 +75,7 @@ class Fields {
 
 template <class Form>
 bool take_meta(Fields &fields) {
-  const BasicMeta<Form> meta(const_cast<std::byte *>(fields.at()));
+  const BasicMeta<Form, const std::byte> meta(fields.at());
   return fields.take(AAA_ATTR_FIELD_SERVICE, 1, [meta] { return meta.service(); }) &&
          fields.take(AAA_ATTR_FIELD_PROTOCOL, 1, [meta] { return meta.protocol(); }) &&
          fields.take(AAA_ATTR_FIELD_TAG, 2, [meta] { return meta.tag(); }) &&
@@ -86,7 +86,7 @@ bool take_meta(Fields &fields) {
 // ---- Flat buffers ----
 
 template <class Form>
-bool take_header(Fields &fields, BasicBlock<Form> block) {
+bool take_header(Fields &fields, BasicBlock<Form, const std::byte> block) {
   const bool begun = fields.take(AAA_ATTR_FIELD_MAGIC, 2, [block] { return block.magic(); });
   if (!begun || block.magic() != kBlockMagic) return false;  // of what is no block nothing else is known
   const bool shared = fields.take(AAA_ATTR_FIELD_VERSION, 1, [block] { return block.version(); }) &&
@@ -105,7 +105,7 @@ bool take_header(Fields &fields, BasicBlock<Form> block) {
 
 template <class Form>
 bool take_record(Fields &fields, unsigned depth) {
-  const BasicRecord<Form> record(const_cast<std::byte *>(fields.at()));
+  const BasicRecord<Form, const std::byte> record(fields.at());
   fields.belong_to(depth, fields.left() >= sizeof(std::uint16_t) ? record.type() : 0);
   return fields.take(AAA_ATTR_FIELD_TYPE, 2, [record] { return record.type(); }) &&
          fields.take(AAA_ATTR_FIELD_RECORD_FLAGS, 2, [record] { return record.flags(); }) &&
@@ -115,7 +115,7 @@ bool take_record(Fields &fields, unsigned depth) {
 
 template <class Form>
 void take_block(Fields &fields, const std::byte *at, unsigned depth) {
-  const BasicBlock<Form> block(const_cast<std::byte *>(at));
+  const BasicBlock<Form, const std::byte> block(at);
   fields.belong_to(depth);
   fields.lie_within(kBlockSizeMax);
   if (!take_header(fields, block) || block.used() < block.header_size()) return;
