@@ -216,7 +216,7 @@ class Page(unittest.TestCase):
         self.browser.press("Home")
         self.assertNotIn("NUL", self.shown())
         self.browser.press("f")
-        self.assertIn("Refused as a list, in place: a stored text must end in NUL", self.shown())
+        self.assertIn("Refused (as a list, in place): a stored text must end in NUL", self.shown())
         self.browser.press("Home")
         self.browser.point_at(".verdicts a", click=True)
         self.assertIn("a stored text must end in NUL", self.shown())
@@ -257,8 +257,8 @@ class Page(unittest.TestCase):
         options = [node["name"]["value"] for node in tree if node["role"]["value"] == "option"]
         self.assertEqual(roles.count("listbox"), 1)
         self.assertEqual(len(options), self.browser.value("document.querySelectorAll('tr[data-f]').length"))
-        self.assertIn("username (197, String), value, bytes 41 to 44: \"bob!\", no NUL at its end. Refused as a list, in "
-                      "place: a stored text must end in NUL.", options)
+        self.assertIn("username (197, String), value, bytes 41 to 44: \"bob!\", no NUL at its end. Refused (as a list, "
+                      "in place): a stored text must end in NUL.", options)
         ids = self.browser.value("[...document.querySelectorAll('[id]')].map((element) => element.id)")
         self.assertEqual(len(ids), len(set(ids)))
         self.assertLessEqual(self.browser.value("document.documentElement.scrollWidth - innerWidth"), 0)

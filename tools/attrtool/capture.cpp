@@ -14,7 +14,7 @@
 namespace attrtool {
 namespace {
 
-constexpr std::size_t kFirstRead = 64 * 1024;
+constexpr std::size_t kFirstRead = std::size_t{64} * 1024;
 
 class OpenFile {
  public:

@@ -31,6 +31,14 @@ std::string escaped(std::string_view text) {
   return safe;
 }
 
+// Of a run of bytes, "b", or a row of the table of fields, "f".
+std::string id_of(const char *kind, std::size_t field) { return kind + std::to_string(field); }
+
+// A blank, the name, and the value in quotes.
+std::string attribute(const char *name, std::string_view value) {
+  return std::string(" ") + name + "=\"" + escaped(value) + "\"";
+}
+
 const char *class_of(SectionKind kind, const std::string &field) {
   switch (kind) {
     case SectionKind::kMarker:
@@ -57,11 +65,8 @@ class PageWriter {
   }
 
   void write() {
-    out_ << "<!doctype html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
-            "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
-            "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; style-src 'unsafe-inline'; "
-            "script-src 'unsafe-inline'\">\n<title>"
-         << name_ << ", byte by byte</title>\n<style>" << kPageStyle << "</style>\n</head>\n<body>\n";
+    out_ << kPageHead << "<title>" << name_ << ", byte by byte</title>\n<style>" << kPageStyle
+         << "</style>\n</head>\n<body>\n";
     write_header();
     out_ << "<main>\n";
     write_map();
@@ -100,47 +105,43 @@ class PageWriter {
       const bool here = at >= field.offset && at - field.offset < field.size;
       if (verdict.accepted() || !(here || (is_last && at == end))) continue;
       std::string &words = readers[verdict.fault.rule];
-      words += (words.empty() ? "Refused " : ", ") + std::string(verdict.words);
+      if (words.empty()) words = here ? "Refused (" : "Refused at the end of the buffer (";
+      words += (words.back() == '(' ? "" : ", ") + std::string(verdict.words);
     }
     std::string text;
     for (const auto &[rule, words] : readers)
-      text += (text.empty() ? "" : " ") + words + ": " + aaa_attr_rule_text(rule) + ".";
+      text += (text.empty() ? "" : " ") + words + "): " + aaa_attr_rule_text(rule) + ".";
     return text;
   }
 
   void write_header() {
-    out_ << "<header>\n<h1>" << name_ << "</h1>\n<p class=\"summary\">"
-         << escaped(summary_text(explanation_.form, explanation_.bytes.size(), explanation_.counts))
-         << "</p>\n<ul class=\"verdicts\">\n";
-    for (const Verdict &verdict : explanation_.verdicts) {
-      out_ << "<li class=\"" << (verdict.accepted() ? "yes" : "no") << "\">" << capital(verdict.words) << ": <strong>"
-           << (verdict.accepted() ? "accepted" : "refused") << "</strong>";
-      if (!verdict.accepted()) {
-        const std::size_t at = field_of(verdict.fault.offset);
-        out_ << " at <a href=\"#f" << at << "\" data-f=\"" << at << "\">byte " << verdict.fault.offset << " ("
-             << escaped(place_name(explanation_.field_at(verdict.fault.offset)))
-             << ")</a>: " << escaped(aaa_attr_rule_text(verdict.fault.rule));
-      }
-      out_ << "</li>\n";
-    }
+    const Explanation &all = explanation_;
+    out_ << "<header>\n<h1>" << name_ << "</h1>\n<p" << attribute("class", "summary") << ">"
+         << escaped(summary_text(all.form, all.bytes.size(), all.counts)) << "</p>\n<ul"
+         << attribute("class", "verdicts") << ">\n";
+    for (const Verdict &verdict : explanation_.verdicts) write_verdict(verdict);
     out_ << "</ul>\n</header>\n";
   }
 
+  void write_verdict(const Verdict &verdict) {
+    const bool yes = verdict.accepted();
+    out_ << "<li" << attribute("class", yes ? "yes" : "no") << ">" << capital(verdict.words) << ": <strong>"
+         << (yes ? "accepted" : "refused") << "</strong>";
+    if (!yes) {
+      const std::size_t at = field_of(verdict.fault.offset);
+      out_ << " at <a" << attribute("href", id_of("#f", at)) << attribute("data-f", std::to_string(at)) << ">byte "
+           << verdict.fault.offset << " (" << escaped(place_name(explanation_.field_at(verdict.fault.offset)))
+           << ")</a>: " << escaped(aaa_attr_rule_text(verdict.fault.rule));
+    }
+    out_ << "</li>\n";
+  }
+
   void write_map() {
-    out_ << "<section class=\"map panel\" aria-labelledby=\"map\">\n<h2 id=\"map\">Bytes</h2>\n<ul class=\"legend\">"
-            "<li><span class=\"header\"></span>block header</li><li><span class=\"record\"></span>record header</li>"
-            "<li><span class=\"meta\"></span>meta</li><li><span class=\"value\"></span>value</li>"
-            "<li><span class=\"unread\"></span>not read</li><li><span class=\"unread hidden\"></span>not shown</li>"
-            "</ul>\n<div class=\"grid\" role=\"listbox\" aria-label=\"Fields of the buffer, in the order of their "
-            "bytes\" "
-            "aria-describedby=\"keys\">\n";
+    out_ << kMapHead;
     const auto end = static_cast<std::uint32_t>(explanation_.bytes.size());
     std::size_t field = 0;
     for (std::uint32_t row = 0; row < end; row += kBytesARow) write_row(row, std::min(row + kBytesARow, end), &field);
-    out_ << "</div>\n<p class=\"keys\" id=\"keys\"><kbd>&larr;</kbd> <kbd>&rarr;</kbd> go from field to field, "
-            "<kbd>&uarr;</kbd> <kbd>&darr;</kbd> from row to row, <kbd>Page Up</kbd> <kbd>Page Down</kbd> from record "
-            "to "
-            "record, <kbd>F</kbd> to what is refused.</p>\n<div class=\"detail\"></div>\n</section>\n";
+    out_ << kMapFoot;
   }
 
   // Bytes in hexadecimal, and the same as text; a run for each field. field: that of the row's first byte.
@@ -154,36 +155,37 @@ class PageWriter {
       at = run_end;
       if (at < end) hex += ' ';
     }
-    out_ << "<div class=\"row\" role=\"none\"><span class=\"at\" aria-hidden=\"true\">" << begin
-         << "</span><span class=\"hex\" role=\"none\">" << hex << "</span><span class=\"text\" aria-hidden=\"true\">"
-         << text << "</span></div>\n";
+    out_ << "<div" << attribute("class", "row") << attribute("role", "none") << "><span" << attribute("class", "at")
+         << kUnspoken << ">" << begin << "</span><span" << attribute("class", "hex") << attribute("role", "none") << ">"
+         << hex << "</span><span" << attribute("class", "text") << kUnspoken << ">" << text << "</span></div>\n";
   }
 
   void write_run(std::size_t number, std::uint32_t begin, std::uint32_t end, std::string *hex,
                  std::string *text) const {
     const auto &[section, field] = fields_[number];
     const std::string look = std::string(class_of(section->kind, field->name)) + (field->hidden ? " hidden" : "");
-    const std::string opening = "<span class=\"" + look + "\" data-f=\"" + std::to_string(number) + "\"";
-    *hex += opening;
-    if (begin == field->offset) {
-      const std::string sentence = why(*field);
-      *hex += " id=\"b" + std::to_string(number) +
-              "\" role=\"option\" aria-selected=\"false\" tabindex=\"-1\" aria-label=\"" +
-              escaped(section->title + ", " + field->name + ", " + where(*field) + ": " + field->meaning) +
-              (sentence.empty() ? "" : ". " + escaped(sentence)) + "\"";
-    } else {
-      *hex += " aria-hidden=\"true\"";
-    }
-    *hex += ">";
+    const std::string opening = "<span" + attribute("class", look) + attribute("data-f", std::to_string(number));
+    *hex += opening + (begin == field->offset ? option_attributes(number) : std::string(kUnspoken)) + ">";
     *text += opening + ">";
     for (std::uint32_t at = begin; at < end; ++at) {
       const std::string byte = hex_text(explanation_, *field, at, 1);
-      *hex += (at > begin ? " " : "") + (is_refused(at) ? "<b class=\"bad\">" + byte + "</b>" : byte);
+      *hex += at > begin ? " " : "";
+      *hex += is_refused(at) ? "<b" + attribute("class", "bad") + ">" + byte + "</b>" : byte;
       const std::uint8_t shown = explanation_.bytes[at];
-      *text += field->hidden || shown < 0x20 || shown >= 0x7F ? "." : escaped(std::string(1, static_cast<char>(shown)));
+      const bool unseen = field->hidden || shown < 0x20 || shown >= 0x7F;
+      *text += unseen ? "." : escaped(std::string(1, static_cast<char>(shown)));
     }
     *hex += "</span>";
     *text += "</span>";
+  }
+
+  // Of a field's first run, which stands for all of it: what one gets to by keys, and what is read out.
+  std::string option_attributes(std::size_t number) const {
+    const auto &[section, field] = fields_[number];
+    const std::string sentence = why(*field);
+    const std::string label = section->title + ", " + field->name + ", " + where(*field) + ": " + field->meaning;
+    return attribute("id", id_of("b", number)) + attribute("role", "option") + attribute("aria-selected", "false") +
+           attribute("tabindex", "-1") + attribute("aria-label", sentence.empty() ? label : label + ". " + sentence);
   }
 
   static std::string where(const Field &field) {
@@ -194,11 +196,12 @@ class PageWriter {
   }
 
   void write_fields() {
-    out_ << "<section class=\"fields panel\" aria-labelledby=\"fields\">\n<h2 id=\"fields\">Fields</h2>\n";
+    out_ << kFieldsHead;
     std::size_t number = 0;
     for (const Section &section : explanation_.sections) {
-      out_ << "<div class=\"part\" data-depth=\"" << section.depth
-           << "\" style=\"--depth:" << std::min(section.depth, kDeepestIndent) << "\">\n<h3>" << escaped(section.title)
+      const unsigned indent = std::min(section.depth, kDeepestIndent);
+      out_ << "<div" << attribute("class", "part") << attribute("data-depth", std::to_string(section.depth))
+           << attribute("style", "--depth:" + std::to_string(indent)) << ">\n<h3>" << escaped(section.title)
            << "</h3>\n<table>\n";
       for (const Field &field : section.fields) write_field(field, number++);
       out_ << "</table>\n</div>\n";
@@ -209,15 +212,16 @@ class PageWriter {
   void write_field(const Field &field, std::size_t number) {
     const std::string sentence = why(field);
     const std::uint32_t shown = std::min(field.size, kBytesInTable);
-    out_ << "<tr id=\"f" << number << "\" data-f=\"" << number << "\" data-at=\"" << field.offset << "\" data-where=\""
-         << where(field) << "\"";
-    if (!sentence.empty()) out_ << " class=\"refused\" data-why=\"" << escaped(sentence) << "\"";
-    out_ << "><td class=\"o\">" << field.offset << "</td><th scope=\"row\">" << escaped(field.name)
-         << "</th><td class=\"m\">" << escaped(field.meaning) << "</td><td class=\"x\">"
-         << hex_text(explanation_, field, field.offset, shown) << (field.size > shown ? " &hellip;" : "")
-         << "</td></tr>\n";
+    out_ << "<tr" << attribute("id", id_of("f", number)) << attribute("data-f", std::to_string(number))
+         << attribute("data-at", std::to_string(field.offset)) << attribute("data-where", where(field));
+    if (!sentence.empty()) out_ << attribute("class", "refused") << attribute("data-why", sentence);
+    out_ << "><td" << attribute("class", "o") << ">" << field.offset << "</td><th" << attribute("scope", "row") << ">"
+         << escaped(field.name) << "</th><td" << attribute("class", "m") << ">" << escaped(field.meaning) << "</td><td"
+         << attribute("class", "x") << ">" << hex_text(explanation_, field, field.offset, shown)
+         << (field.size > shown ? " &hellip;" : "") << "</td></tr>\n";
   }
 
+  static constexpr const char *kUnspoken = " aria-hidden='true'";
   static constexpr unsigned kDeepestIndent = 6;
   static constexpr std::uint32_t kBytesInTable = 8;
 

@@ -80,8 +80,41 @@ tr.on { background: color-mix(in srgb, var(--accent) 16%, transparent); }
 tr.refused td.m, tr.refused th { color: var(--bad); font-weight: 600; }
 footer { color: var(--faint); font-size: .85rem; padding-top: 1rem; padding-bottom: 2rem; }
 @media (max-width: 70rem) { main { grid-template-columns: minmax(0, 1fr); } .map { position: static; }
-  .grid { max-height: 45vh; } .detail { width: auto; } }
+  .grid { max-height: 45vh; } }
+@media (max-width: 45rem) { header, main, footer { padding: 0 .8rem; } td.x { display: none; } .text { display: none; } }
 )css";
+
+// Up to the title.
+inline constexpr char kPageHead[] = R"html(<!doctype html>
+<html lang="en">
+<head>
+<meta charset="utf-8">
+<meta name="viewport" content="width=device-width, initial-scale=1">
+<meta http-equiv="Content-Security-Policy"
+ content="default-src 'none'; style-src 'unsafe-inline'; script-src 'unsafe-inline'">
+)html";
+
+inline constexpr char kMapHead[] = R"html(<section class="map panel" aria-labelledby="map">
+<h2 id="map">Bytes</h2>
+<ul class="legend">
+<li><span class="header"></span>block header</li><li><span class="record"></span>record header</li>
+<li><span class="meta"></span>meta</li><li><span class="value"></span>value</li>
+<li><span class="unread"></span>not read</li><li><span class="unread hidden"></span>not shown</li>
+</ul>
+<div class="grid" role="listbox" aria-label="Fields of the buffer, in the order of their bytes" aria-describedby="keys">
+)html";
+
+inline constexpr char kMapFoot[] = R"html(</div>
+<p class="keys" id="keys"><kbd>&larr;</kbd> <kbd>&rarr;</kbd> go from field to field, <kbd>&uarr;</kbd>
+<kbd>&darr;</kbd> from row to row, <kbd>Page Up</kbd> <kbd>Page Down</kbd> from record to record, <kbd>F</kbd> to what is
+refused.</p>
+<div class="detail"></div>
+</section>
+)html";
+
+inline constexpr char kFieldsHead[] = R"html(<section class="fields panel" aria-labelledby="fields">
+<h2 id="fields">Fields</h2>
+)html";
 
 inline constexpr char kPageScript[] = R"js(
 'use strict';

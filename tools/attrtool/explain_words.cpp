@@ -196,7 +196,7 @@ std::string type_text(std::uint32_t type) {
 }
 
 std::string meaning_of(const aaa_attr_field &field) {
-  const std::string number = std::to_string(field.number);
+  std::string number = std::to_string(field.number);
   if (field.missing > 0) return "cut short, " + std::to_string(field.missing) + " of its bytes missing";
   switch (static_cast<aaa_attr_field_kind>(field.kind)) {
     case AAA_ATTR_FIELD_MARKER:

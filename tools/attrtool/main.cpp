@@ -39,7 +39,7 @@ int run(int argc, char **argv) {
   } catch (const CLI::ParseError &error) {
     std::cerr << "attrtool: " << printable(error.what()) << "; attrtool --help tells more\n";
     return kUsage;
-  } catch (const Failure &failure) {
+  } catch (const std::exception &failure) {
     std::cerr << "attrtool: " << failure.what() << '\n';
     return kUsage;
   }

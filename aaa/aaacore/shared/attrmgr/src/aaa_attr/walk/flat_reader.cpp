@@ -167,7 +167,7 @@ bool FlatReader<Form, kRules, Fault>::refuse_records() {
   Scan scan = records();
   while (scan.next())
     if (!holds_value(scan.record(), scan.after())) return false;
-  if (scan.overrun()) return refuse_cut_record(Record(block_.bytes() + (scan.after() - block_.bytes())));
+  if (scan.overrun()) return refuse_cut_record(Record(scan.after()));
   return refuse_field(AAA_ATTR_RULE_RECORD_COUNT, kRecordCountAt);
 }
 
