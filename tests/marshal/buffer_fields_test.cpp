@@ -107,7 +107,16 @@ TEST(Fields, OfOtherBuffers) {
 5 type=197 meta length=8 service=1 protocol=2 tag=4660 flags=1 client=16 length=3 value+3
 28 type=444 meta length=0
   36 total=49
-40 unread+44)"},
+  40 type=2 meta length=0 length=4 value+4
+  56 type=445 meta length=0
+    64 total=4
+  68 type=2 meta length=0 length=4 value+4)"},
+      {"a TLV buffer cut short", head_of(hex(golden::kTlvNested), 54), R"( marker=2
+1 total=83
+5 type=197 meta length=8 service=1 protocol=2 tag=4660 flags=1 client=16 length=3 value+3
+28 type=444 meta length=0
+  36 total=32
+  40 type=2 meta length=0 length=4 value+2-2)"},
       {"a TLV value cut short by its list", patched(hex(golden::kTlvNested), "48=11 36=14"), R"( marker=2
 1 total=83
 5 type=197 meta length=8 service=1 protocol=2 tag=4660 flags=1 client=16 length=3 value+3

@@ -152,19 +152,18 @@ void take_tlv_value(Fields &fields) {
 }
 
 void take_refused_tlv(Fields &fields, const Named &fault) {
-  if (fault.depth == 0 || fault.rule == AAA_ATTR_RULE_TLV_RECORD) return;
+  if (fault.depth == 0) return;
   const unsigned depth = fault.depth - 1;
   fields.lie_within(static_cast<std::uint64_t>(fault.list_end - fields.at()));
   if (!take_tlv_head(fields, depth) || fault.rule == AAA_ATTR_RULE_TLV_TYPE) return;
-  const bool opens_list = fault.rule == AAA_ATTR_RULE_TLV_TOTAL_MIN || fault.rule == AAA_ATTR_RULE_TLV_TOTAL_MAX ||
-                          fault.rule == AAA_ATTR_RULE_NESTING;
+  const bool opens_list = fault.rule == AAA_ATTR_RULE_TLV_TOTAL_MIN || fault.rule == AAA_ATTR_RULE_NESTING;
   if (!opens_list) return take_tlv_value(fields);
   fields.belong_to(depth + 1);
   take_number(fields, AAA_ATTR_FIELD_TOTAL);
 }
 
 void take_tlv(Fields &fields, std::uint64_t length) {
-  TlvReader<Named> reader(fields.at(), length);
+  TlvReader<AsFarAsItGoes> reader(fields.at(), length);
   take_number(fields, AAA_ATTR_FIELD_TOTAL);
   while (reader.next()) {
     take_tlv_head(fields, reader.depth());

@@ -65,7 +65,8 @@ class TlvReader {
   // Only where a total lies within what remains.
   bool enter_body() {
     if (depth_ > AAA_ATTR_NESTING_MAX) return refuse(AAA_ATTR_RULE_NESTING, AAA_ATTR_ERR_BAD_LENGTH, at_);
-    const auto total = load<std::uint32_t>(at_);
+    std::uint64_t total = load<std::uint32_t>(at_);
+    if (Fault::kCutsTotals && total > left()) total = left();
     if (total < kTlvTotalSize) return refuse(AAA_ATTR_RULE_TLV_TOTAL_MIN, AAA_ATTR_ERR_BAD_LENGTH, at_);
     if (total > left()) return refuse(AAA_ATTR_RULE_TLV_TOTAL_MAX, AAA_ATTR_ERR_BAD_LENGTH, at_);
     ends_[++depth_] = at_ + total;
