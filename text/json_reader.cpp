@@ -9,6 +9,7 @@
 
 #include "attribute_draft.h"
 #include "json_writer.h"
+#include "printable.h"
 #include "values.h"
 
 namespace attrtext {
@@ -313,7 +314,7 @@ class Builder : public nlohmann::json_sax<nlohmann::json> {
   bool parse_error(std::size_t offset, const std::string &, const nlohmann::detail::exception &error) override {
     const std::string_view what = error.what();  // "[...] parse error at line 1, column 2: syntax error ..."
     const std::size_t reason = what.find(": ");
-    throw BadText("this is no JSON: " + std::string(reason == what.npos ? what : what.substr(reason + 2)),
+    throw BadText("this is no JSON: " + printable(reason == what.npos ? what : what.substr(reason + 2)),
                   position_.at(offset == 0 ? 0 : offset - 1));
   }
 

@@ -24,7 +24,7 @@ std::size_t tolerated(std::size_t length) { return length < 6 ? length / 2 : 1 +
 }  // namespace
 
 // The rows of the usual table for three lengths of `one`: two before the current one, the one before, the current one.
-std::size_t distance(std::string_view one, std::string_view other) {
+std::size_t distance(std::string_view one, std::string_view other, std::size_t limit) {
   one = one.substr(0, kLongest);
   other = other.substr(0, kLongest);
   std::size_t rows[3][kLongest + 1];
@@ -39,6 +39,9 @@ std::size_t distance(std::string_view one, std::string_view other) {
       if (i > 1 && j > 1 && folded(one[i - 1]) == folded(other[j - 2]) && folded(one[i - 2]) == folded(other[j - 1]))
         current[j] = std::min(current[j], two_before[j - 2] + 1);
     }
+    // An exchange of neighbours comes from two rows before, and costs one.
+    const std::size_t least = *std::min_element(current, current + other.size() + 1);
+    if (least > limit && *std::min_element(before, before + other.size() + 1) >= limit) return least;
   }
   return rows[one.size() % 3][other.size()];
 }
@@ -50,8 +53,10 @@ std::vector<std::string_view> nearest(std::string_view text, const std::vector<s
   };
   std::vector<Candidate> candidates;
   for (const std::string_view name : names) {
-    const std::size_t far = distance(text, name);
-    if (far <= tolerated(std::max(text.size(), name.size()))) candidates.push_back({far, name});
+    const auto [shorter, longer] = std::minmax({text.size(), name.size()});
+    const std::size_t limit = tolerated(longer);
+    if (longer - shorter > limit) continue;  // without a look at the characters
+    if (const std::size_t far = distance(text, name, limit); far <= limit) candidates.push_back({far, name});
   }
   std::stable_sort(candidates.begin(), candidates.end(),
                    [](const Candidate &one, const Candidate &other) { return one.distance < other.distance; });

@@ -12,9 +12,8 @@ struct Lead {
   std::uint8_t first, last, length, second_min, second_max;
 };
 constexpr Lead kLeads[] = {
-    {0x00, 0x7F, 1, 0, 0},       {0xC2, 0xDF, 2, 0x80, 0xBF}, {0xE0, 0xE0, 3, 0xA0, 0xBF},
-    {0xE1, 0xEC, 3, 0x80, 0xBF}, {0xED, 0xED, 3, 0x80, 0x9F}, {0xEE, 0xEF, 3, 0x80, 0xBF},
-    {0xF0, 0xF0, 4, 0x90, 0xBF}, {0xF1, 0xF3, 4, 0x80, 0xBF}, {0xF4, 0xF4, 4, 0x80, 0x8F},
+    {0xC2, 0xDF, 2, 0x80, 0xBF}, {0xE0, 0xE0, 3, 0xA0, 0xBF}, {0xE1, 0xEC, 3, 0x80, 0xBF}, {0xED, 0xED, 3, 0x80, 0x9F},
+    {0xEE, 0xEF, 3, 0x80, 0xBF}, {0xF0, 0xF0, 4, 0x90, 0xBF}, {0xF1, 0xF3, 4, 0x80, 0xBF}, {0xF4, 0xF4, 4, 0x80, 0x8F},
 };
 
 // Controls, and characters that are not seen but change what is: direction marks, joiners, line separators, tags.
@@ -22,7 +21,7 @@ struct Range {
   std::uint32_t first, last;
 };
 constexpr Range kUnseen[] = {
-    {0x00, 0x1F},     {0x7F, 0x9F},     {0xAD, 0xAD},     {0x61C, 0x61C},   {0x180E, 0x180E},   {0x200B, 0x200F},
+    {0x80, 0x9F},     {0xAD, 0xAD},     {0x61C, 0x61C},   {0x180E, 0x180E}, {0x200B, 0x200F},
     {0x2028, 0x202E}, {0x2060, 0x206F}, {0xFEFF, 0xFEFF}, {0xFFF0, 0xFFFB}, {0xE0000, 0xE0FFF},
 };
 
@@ -46,6 +45,7 @@ void append_escape(std::string *text, char byte) {
 std::size_t utf8_length(std::string_view text) {
   if (text.empty()) return 0;
   const std::uint8_t first = byte_at(text, 0);
+  if (first < 0x80) return 1;  // by far the most
   const auto *lead = std::find_if(std::begin(kLeads), std::end(kLeads),
                                   [first](const Lead &row) { return row.first <= first && first <= row.last; });
   if (lead == std::end(kLeads) || text.size() < lead->length) return 0;
@@ -58,6 +58,7 @@ std::size_t utf8_length(std::string_view text) {
 std::size_t printable_length(std::string_view text) {
   const std::size_t length = utf8_length(text);
   if (length == 0) return 0;
+  if (length == 1) return text.front() >= ' ' && text.front() != '\x7F' ? 1 : 0;
   const std::uint32_t point = code_point(text.substr(0, length));
   for (const Range &range : kUnseen)
     if (range.first <= point && point <= range.last) return 0;

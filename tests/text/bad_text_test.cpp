@@ -87,6 +87,8 @@ TEST(BadText, Json) {
       {"", "1:1: this is no JSON: "},
       {"{\"version\": 1,\n \"attributes\": [}", "2:17: this is no JSON: "},
       {"{\"version\": 1, \"attributes\": []} x", "1:34: this is no JSON: "},
+      {"\x1b[2J", "1:1: this is no JSON: syntax error while parsing value - invalid literal; last read: '<U+001B>'"},
+      {"{\"\xff\x1b", "1:3: this is no JSON: syntax error while parsing object key - invalid string: ill-formed"},
       {"[]", "1:1: expected an object with \"version\" and \"attributes\""},
       {"1", "1:1: expected an object"},
       {"{\"version\": 2}", "1:13: expected version 1, found \"2\""},
