@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "support/malformed.h"
+#include "text_forms.h"
 
 namespace {
 
@@ -35,7 +36,7 @@ void fill_nested(aaa_attr_list_handle list, int depth) {
 }
 
 constexpr std::size_t kSizeMax = 8192;  // larger ones would only slow the fuzzer down
-constexpr const char *kFlatTargets[] = {"flat_decode", "read_in_place", "translate"};
+constexpr const char *kFlatTargets[] = {"flat_decode", "read_in_place", "translate", "text_write"};
 
 void save(const std::filesystem::path &path, const Bytes &buffer) {
   if (buffer.size() > kSizeMax) return;
@@ -45,12 +46,21 @@ void save(const std::filesystem::path &path, const Bytes &buffer) {
       .write(reinterpret_cast<const char *>(buffer.data()) + 1, static_cast<std::streamsize>(buffer.size()) - 1);
 }
 
+void save_text(const std::filesystem::path &path, const std::string &text) {
+  if (text.size() > kSizeMax) return;
+  std::filesystem::create_directories(path.parent_path());
+  std::ofstream(path, std::ios::binary) << text;
+}
+
 void save_forms(const std::filesystem::path &directory, const std::string &name, List list) {
   Bytes flat = flat_buffer(list);
   for (const char *target : kFlatTargets) save(directory / target / name, flat);
   if (aaa_attrs_buffer_tran(reinterpret_cast<char *>(flat.data()), CDM_ENDIAN_TRAN_HTON) == 0)
     save(directory / "translate" / (name + "-network"), flat);
   save(directory / "tlv_decode" / name, tlv_buffer(list));
+  const attrmgr::list_view view{list};
+  save_text(directory / "text_read" / name, text_forms::text_of(view));
+  save_text(directory / "json_read" / name, text_forms::json_of(view));
 }
 
 void save_malformed(const std::filesystem::path &directory) {
