@@ -60,11 +60,6 @@ class Input {
     position_->read_ = ++at_;
     return *this;
   }
-  Input operator++(int) {
-    const Input before = *this;
-    ++*this;
-    return before;
-  }
   friend bool operator==(const Input &one, const Input &other) { return one.at_ == other.at_; }
 
  private:
@@ -152,7 +147,7 @@ void read_member(const std::string &key, Scalar scalar, Attribute *attribute) {
   } else if (key == "bytes" && scalar.kind == Scalar::kString) {
     attribute->bytes = std::move(scalar);
   } else if (key == "hidden") {
-    throw BadText("the value is a secret that was left out here: expected \"value\" or \"bytes\"", scalar.place);
+    throw BadText(R"(the value is a secret that was left out here: expected "value" or "bytes")", scalar.place);
   } else {
     throw unexpected_value(key == "name" || key == "bytes" ? "a string" : "an array or an object for \"" + key + '"',
                            scalar);
@@ -197,7 +192,7 @@ Bytes bytes_of_hex(const Scalar &scalar) {
 void settle_type(Attribute *attribute) {
   const std::optional<Scalar> &name = attribute->name;
   if (!name && attribute->draft.type == 0)
-    throw BadText("expected \"type\" or \"name\" in the object", attribute->place);
+    throw BadText(R"(expected "type" or "name" in the object)", attribute->place);
   if (!name) return;
   if (attribute->draft.type == 0) {
     attribute->draft.type = at_place(name->place, [&] { return type_from_name(name->text); });
@@ -214,7 +209,7 @@ void add_finished(attrmgr::list_ref list, Attribute attribute) {
   const int values = (attribute.value ? 1 : 0) + (attribute.bytes ? 1 : 0) + (attribute.group ? 1 : 0);
   if (values != 1 || grouped != attribute.group.has_value())
     throw BadText(std::string("expected ") +
-                      (grouped ? "\"attributes\", since " : "either \"value\" or \"bytes\" for ") +
+                      (grouped ? R"("attributes", since )" : R"(either "value" or "bytes" for )") +
                       in_quotes(aaa_attr_get_name_from_type(type)) + (grouped ? " is a group" : ""),
                   attribute.place);
   if (grouped) {
@@ -237,8 +232,8 @@ class Builder : public nlohmann::json_sax<nlohmann::json> {
   Position &position() { return position_; }
 
   attrmgr::list finish() {
-    if (!has_version_) throw BadText("expected \"version\": 1 in the object", position_.at(0));
-    if (!has_attributes_) throw BadText("expected \"attributes\" in the object", position_.at(0));
+    if (!has_version_) throw BadText(R"(expected "version": 1 in the object)", position_.at(0));
+    if (!has_attributes_) throw BadText(R"(expected "attributes" in the object)", position_.at(0));
     return std::move(list_);
   }
 
@@ -314,7 +309,7 @@ class Builder : public nlohmann::json_sax<nlohmann::json> {
   bool parse_error(std::size_t offset, const std::string &, const nlohmann::detail::exception &error) override {
     const std::string_view what = error.what();  // "[...] parse error at line 1, column 2: syntax error ..."
     const std::size_t reason = what.find(": ");
-    throw BadText("this is no JSON: " + printable(reason == what.npos ? what : what.substr(reason + 2)),
+    throw BadText("this is no JSON: " + printable(reason == std::string_view::npos ? what : what.substr(reason + 2)),
                   position_.at(offset == 0 ? 0 : offset - 1));
   }
 
@@ -340,7 +335,7 @@ class Builder : public nlohmann::json_sax<nlohmann::json> {
 
   // What the member whose value begins now should have.
   std::string expected_for_key() const {
-    if (levels_.empty()) return "an object with \"version\" and \"attributes\"";
+    if (levels_.empty()) return R"(an object with "version" and "attributes")";
     if (levels_.back() == Level::kArray) return "an object";
     if (levels_.back() == Level::kAttribute && key_ == "meta") return "an object";
     return key_ == "attributes" ? "an array" : "no array and no object for \"" + key_ + '"';

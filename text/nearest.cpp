@@ -27,7 +27,7 @@ std::size_t tolerated(std::size_t length) { return length < 6 ? length / 2 : 1 +
 std::size_t distance(std::string_view one, std::string_view other, std::size_t limit) {
   one = one.substr(0, kLongest);
   other = other.substr(0, kLongest);
-  std::size_t rows[3][kLongest + 1];
+  std::size_t rows[3][kLongest + 1] = {};
   std::iota(rows[0], rows[0] + other.size() + 1, std::size_t{0});
   for (std::size_t i = 1; i <= one.size(); ++i) {
     const std::size_t *two_before = rows[(i + 1) % 3], *before = rows[(i - 1) % 3];
