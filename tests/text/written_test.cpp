@@ -25,9 +25,11 @@ const Row kRows[] = {
     {R"(username = "a\xe2\x80\xaeb")", R"("value": "a\u202eb")"},
     {R"(username = "\xf3\xa0\x80\x81")", R"("value": "\udb40\udc01")"},
     {R"(username = "\xff\xfe")", R"("bytes": "fffe")"},
+    {R"(username = "\xed\xa0\x80")", R"("bytes": "eda080")"},  // half of a pair of UTF-16
     // Numbers, also beyond what a double holds
     {"Framed-MTU = 4294967295", R"("value": 4294967295)", "Framed-MTU = 0xffffffff"},
     {"455 = 9007199254740992", R"("value": 9007199254740992)"},
+    {"455 = 9007199254740993", R"("value": "9007199254740993")"},
     {"455 = 18446744073709551615", R"("value": "18446744073709551615")"},
     {"455 = <01 02>", R"("bytes": "0102")"},
     {"Acct-Status-Type = Stop", R"("value": "Stop")", "3 = \"2\""},
