@@ -108,9 +108,11 @@ AAA_MUST_CHECK aaa_attr_cerrno aaa_attr_buffer_scrub(void *buffer, uint32_t leng
 
 /* ---- Byte order ----
 
-   Flat buffers are written in the host's byte order. A buffer for a host of the other order is translated to network
-   form (big-endian integers, flag bits from the top down), and back where it arrives. It does not tell which form it
-   is in, but a second translation in the same direction is refused. */
+   Flat buffers are written in the host's byte order. A buffer that may reach a host of the other order is translated to
+   network form (big-endian integers, flag bits from the top down), and to host form where it arrives. It does not tell
+   which form it is in, but a buffer that is not in the form that it should be in is refused: a little-endian host
+   refuses a second translation in the same direction. A big-endian host has its buffers in network form, and changes
+   nothing. */
 typedef enum cdm_endian_tran_type
 #ifdef __cplusplus
     : int /* as wide as in C, where any number may be passed */
@@ -120,21 +122,25 @@ typedef enum cdm_endian_tran_type
 } cdm_endian_tran_type;
 
 /* Translates a flat buffer in place. Ulong and Enum values are translated; other values, the handles of sub-lists among
-   them, travel as they are. A refused buffer is unchanged. v1 is told the buffer's length.
+   them, travel as they are. A refused buffer is unchanged. v1 and v2 are told the buffer's length. v2 translates
+   Ulonglong and UTC values of 8 bytes, too: only between peers that both call it, since the buffer does not tell.
    A buffer whose first block counts no blocks is left as it is, with 0.
    direction: to network form before the buffer leaves, to host form where it arrives.
-   AAA_ATTR_ERR_BAD_ARG: null, an unknown direction, or not marked as a flat buffer (v1: length 0).
-   AAA_ATTR_ERR_BAD_BUFFER: the buffer does not hold together in the form that it should be in (v1: within length), or
-   the blocks of a list differ in their layout. */
+   AAA_ATTR_ERR_BAD_ARG: null, an unknown direction, or not marked as a flat buffer (v1, v2: length 0).
+   AAA_ATTR_ERR_BAD_BUFFER: the buffer does not hold together in the form that it should be in (v1, v2: within length),
+   or the blocks of a list differ in their layout. */
 AAA_MUST_CHECK aaa_attr_cerrno aaa_attrs_buffer_tran(char *buffer, cdm_endian_tran_type direction) AAA_NOEXCEPT;
 AAA_MUST_CHECK aaa_attr_cerrno aaa_attrs_buffer_tran_v1(char *buffer, uint32_t length,
+                                                        cdm_endian_tran_type direction) AAA_NOEXCEPT;
+AAA_MUST_CHECK aaa_attr_cerrno aaa_attrs_buffer_tran_v2(char *buffer, uint32_t length,
                                                         cdm_endian_tran_type direction) AAA_NOEXCEPT;
 
 /* ---- Gather list ---- */
 
-/* Bytes of a list's flat form. On platforms with POSIX's struct iovec (64-bit) the two have the same layout. */
+/* Bytes of a list's flat form: 16 bytes on every host. On a host with 64-bit addresses POSIX's struct iovec has the
+   same layout; on one with 32-bit addresses its entries are to be written from these. */
 typedef struct aaa_attr_array_entry {
-  const void *base;
+  AAA_POINTER(const void, base);
   uint64_t length;
 } aaa_attr_array_entry;
 
