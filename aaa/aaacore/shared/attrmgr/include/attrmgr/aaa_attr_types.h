@@ -38,7 +38,8 @@ typedef struct AAA_PACKED aaa_attr_meta {
   uint16_t client; /* client identifier, carried as given */
 } aaa_attr_meta;
 
-#define AAA_ATTR_META_MANDATORY 0x1u /* the attribute must be understood: the M bit of RFC 6733 section 4.1 */
+/* The attribute must be understood: the M bit of RFC 6733 section 4.1. 0x1, on big-endian hosts 0x8000. */
+#define AAA_ATTR_META_MANDATORY AAA_FIRST_BIT
 
 /* Producer client types that are valid to stamp on a record. 0 means none was given. */
 #define AAA_ATTR_CLIENT_TYPE_MIN 1u

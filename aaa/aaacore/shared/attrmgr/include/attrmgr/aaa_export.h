@@ -1,7 +1,9 @@
-/* aaa_export.h: how the interface is declared. The only header that knows about visibility, packing, C++ linkage and
-   what compilers are told of a function. */
+/* aaa_export.h: how the interface is declared. The only header that knows about visibility, packing, C++ linkage, the
+   host's addresses and byte order, and what compilers are told of a function. */
 #ifndef ATTRMGR_AAA_EXPORT_H
 #define ATTRMGR_AAA_EXPORT_H
+
+#include <stdint.h>
 
 #if defined(__GNUC__)
 #define AAA_API __attribute__((visibility("default")))
@@ -27,6 +29,23 @@
 #define AAA_NOEXCEPT noexcept
 #else
 #define AAA_NOEXCEPT
+#endif
+
+/* A pointer in a structure of the interface. It takes 8 bytes on hosts with narrower addresses, too. */
+#if UINTPTR_MAX > 0xFFFFFFFFu
+#define AAA_POINTER(type, name) type *name
+#else
+/* clang-format off */
+#define AAA_POINTER(type, name) type *name; uint32_t : 32
+/* clang-format on */
+#endif
+
+/* The first bit of a flag field of 16 bits, as compilers lay out bit-fields: from the top where bytes are in big-endian
+   order. */
+#if defined(__BYTE_ORDER__) && __BYTE_ORDER__ == __ORDER_BIG_ENDIAN__
+#define AAA_FIRST_BIT 0x8000u
+#else
+#define AAA_FIRST_BIT 0x1u
 #endif
 
 #ifdef __cplusplus

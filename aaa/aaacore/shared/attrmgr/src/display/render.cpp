@@ -72,7 +72,7 @@ class Renderer {
   void put_meta() {
     const MetaView meta = record_.meta();
     line_.put("svc<").put_decimal(meta.service()).put("> prot<").put_decimal(meta.protocol());
-    line_.put("> tag<").put_decimal(meta.tag()).put("> mand<").put_decimal(meta.flags() & AAA_ATTR_META_MANDATORY);
+    line_.put("> tag<").put_decimal(meta.tag()).put("> mand<").put_decimal(unsigned{meta.mandatory()});
     line_.put("> client<0x").put_hex(meta.client()).put(">");
   }
 
@@ -181,9 +181,9 @@ class Renderer {
 
   void put_time() {
     const auto seconds = value_as<std::int64_t>(record_);
-    const std::time_t time = seconds;
+    const auto time = static_cast<std::time_t>(seconds);  // which may be narrower
     char text[kCtimeSize] = {};
-    if (ctime_r(&time, text) != nullptr) {
+    if (time == seconds && ctime_r(&time, text) != nullptr) {
       line_.put(std::string_view(text, std::strlen(text) - 1));  // without its newline
     } else {
       line_.put_signed(seconds);

@@ -77,7 +77,7 @@ std::uint32_t aaa_cursor_get_tag(const aaa_cursor *cursor) noexcept {
 
 std::uint32_t aaa_cursor_mandatory(const aaa_cursor *cursor) noexcept {
   const RecordView record = current_record(cursor);
-  return record && record.has_meta() ? record.meta().flags() & AAA_ATTR_META_MANDATORY : 0;
+  return record && record.has_meta() && record.meta().mandatory();
 }
 
 std::uint32_t aaa_cursor_get_length(const aaa_cursor *cursor) noexcept {

@@ -17,7 +17,7 @@ namespace {
 // the other; the client and the other flag bits do not.
 bool replaces(MetaView newer, MetaView older) {
   return newer.service() == older.service() && newer.protocol() == older.protocol() && newer.tag() == older.tag() &&
-         ((newer.flags() ^ older.flags()) & AAA_ATTR_META_MANDATORY) == 0;
+         newer.mandatory() == older.mandatory();
 }
 
 bool meta_agrees(RecordView found, const NewAttribute &attribute) {

@@ -2,7 +2,6 @@
 
 #include "aaa_attr/marshal/tlv_reader.h"
 #include "aaa_attr/marshal/translatable.h"
-#include "aaa_attr/store/network_form.h"
 #include "aaa_attr/walk/flat_reader.h"
 
 namespace attrmgr {

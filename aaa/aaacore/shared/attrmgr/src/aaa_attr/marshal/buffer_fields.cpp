@@ -6,7 +6,6 @@
 
 #include "aaa_attr/marshal/buffer_fault.h"
 #include "aaa_attr/marshal/tlv_reader.h"
-#include "aaa_attr/store/network_form.h"
 #include "aaa_attr/walk/flat_reader.h"
 
 namespace attrmgr {

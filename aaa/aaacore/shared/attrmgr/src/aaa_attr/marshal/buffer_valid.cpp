@@ -18,7 +18,7 @@ Error check_buffer(const void *buffer, std::uint32_t length) {
 
 void scrub_block(BlockView block) {
   block.set_own_word(0);
-  store(block.bytes() + kNextAt, std::uint64_t{block.next() ? 1u : 0u});
+  store(block.bytes() + kNextAt, std::uint64_t{block.has_next()});
   for (RecordScan scan(block); scan.next();) forget_handle(scan.record());
 }
 

@@ -4,7 +4,6 @@
 
 #include "aaa_attr/marshal/translatable.h"
 #include "aaa_attr/result/error.h"
-#include "aaa_attr/store/network_form.h"
 #include "dictionary/type_table.h"
 
 namespace attrmgr {

@@ -7,8 +7,8 @@
 //             meta is present iff flags has kRecordHasMeta; records are packed, never aligned
 //
 // The same bytes, `used` of each block, are the flat form of a list in a buffer. There a block may also have the
-// foreign header, which ends with next:u32 after `used`. Where the flat form is in network order, the views of
-// views.h read it through another Form.
+// foreign header, which ends with next:u32 after `used`. Fields are in a form (form.h): that of the host, or network
+// form.
 #pragma once
 
 #include <cstddef>
@@ -37,14 +37,35 @@ inline constexpr std::size_t kHeaderSize = 24;
 inline constexpr std::size_t kSharedHeaderSize = 12;  // up to `used` both headers agree
 inline constexpr std::size_t kForeignHeaderSize = 16;
 
-// Block flags.
-inline constexpr std::uint8_t kBlockHead = 0x01;
-inline constexpr std::uint8_t kBlockLast = 0x02;
-inline constexpr std::uint8_t kBlockHoldsGrouped = 0x04;
-inline constexpr std::uint8_t kBlockReserved = 0x08;
-inline constexpr std::uint8_t kBlockLayoutMask = 0x30;
-inline constexpr std::uint8_t kBlockLayoutForeign = 0x10;
-inline constexpr std::uint8_t kBlockLayoutNative = 0x20;
+// A field of flags, by the widths of its parts in the order in which they are laid out: from bit 0 up where integers
+// are little-endian, from the top bit down where they are big-endian, as compilers lay out bit-fields. The flags named
+// below are bits of the former, which views take and give whatever the form.
+template <class T, unsigned... kWidths>
+struct FlagField {
+  using Bits = T;
+  static constexpr unsigned kWidthOf[] = {kWidths...};
+  static_assert((kWidths + ...) == 8 * sizeof(T));
+
+  static constexpr unsigned shift(std::size_t part) {
+    unsigned low = 0;
+    for (std::size_t i = 0; i < part; ++i) low += kWidthOf[i];
+    return low;
+  }
+  static constexpr T mask(std::size_t part) {
+    return static_cast<T>(((std::uint32_t{1} << kWidthOf[part]) - 1) << shift(part));
+  }
+  static constexpr T value(std::size_t part, unsigned number) { return static_cast<T>(number << shift(part)); }
+};
+
+// Block flags: head, last, holds grouped, reserved, header layout, spare.
+using BlockFlags = FlagField<std::uint8_t, 1, 1, 1, 1, 2, 2>;
+inline constexpr std::uint8_t kBlockHead = BlockFlags::mask(0);
+inline constexpr std::uint8_t kBlockLast = BlockFlags::mask(1);
+inline constexpr std::uint8_t kBlockHoldsGrouped = BlockFlags::mask(2);
+inline constexpr std::uint8_t kBlockReserved = BlockFlags::mask(3);
+inline constexpr std::uint8_t kBlockLayoutMask = BlockFlags::mask(4);
+inline constexpr std::uint8_t kBlockLayoutForeign = BlockFlags::value(4, 1);
+inline constexpr std::uint8_t kBlockLayoutNative = BlockFlags::value(4, 2);
 
 // The word at kReservedAt is the library's own, and 0 in every buffer and in a new block. Of any block:
 inline constexpr std::uint32_t kMayHoldSecret = 0x2;  // the block has had a value of a type with the opaque flag
@@ -70,12 +91,13 @@ inline constexpr std::size_t kRecordHeaderSize = 8;
 
 inline constexpr std::uint32_t kRecordTypeMax = 0xFFFF;
 
-// Record flags.
-inline constexpr std::uint16_t kRecordHasMeta = 0x0001;
-inline constexpr std::uint16_t kRecordDeleted = 0x0002;
-inline constexpr unsigned kClientTypeShift = 2;
-inline constexpr std::uint16_t kClientTypeMax = 0x7F;  // as wide as the field
-inline constexpr std::uint16_t kClientTypeMask = kClientTypeMax << kClientTypeShift;
+// Record flags: has meta, deleted, producer client type, spare.
+using RecordFlags = FlagField<std::uint16_t, 1, 1, 7, 7>;
+inline constexpr std::uint16_t kRecordHasMeta = RecordFlags::mask(0);
+inline constexpr std::uint16_t kRecordDeleted = RecordFlags::mask(1);
+inline constexpr unsigned kClientTypeShift = RecordFlags::shift(2);
+inline constexpr std::uint16_t kClientTypeMask = RecordFlags::mask(2);
+inline constexpr std::uint16_t kClientTypeMax = kClientTypeMask >> kClientTypeShift;  // as wide as the part
 
 // Attribute meta.
 inline constexpr std::size_t kMetaServiceAt = 0;
@@ -84,6 +106,10 @@ inline constexpr std::size_t kMetaTagAt = 2;
 inline constexpr std::size_t kMetaFlagsAt = 4;
 inline constexpr std::size_t kMetaClientAt = 6;
 inline constexpr std::size_t kMetaSize = 8;
+
+// Meta flags: mandatory, and what callers like.
+using MetaFlags = FlagField<std::uint16_t, 1, 15>;
+inline constexpr std::uint16_t kMetaMandatory = MetaFlags::mask(0);
 
 // A Grouped value.
 inline constexpr std::size_t kHandleSize = 8;

@@ -2,49 +2,19 @@
 // and stores their fields, at any alignment. A view does not check bounds; what makes one does (record_scan.h,
 // flat_reader.h).
 //
-// A view is a template over the form its fields are in: HostForm in lists and in buffers as they are made, NetworkForm
-// (network_form.h) in translated buffers; and over whether the bytes may be written. A writable view is taken wherever
-// a constant one is asked for.
+// A view is a template over the form its fields are in (form.h): HostForm in lists and in buffers as they are made,
+// NetworkForm in translated buffers; and over whether the bytes may be written. A writable view is taken wherever a
+// constant one is asked for.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <type_traits>
 
+#include "aaa_attr/store/form.h"
 #include "aaa_attr/store/layout.h"
 
 namespace attrmgr {
-
-template <class T>
-inline T load(const std::byte *at) {
-  T value;
-  std::memcpy(&value, at, sizeof value);
-  return value;
-}
-
-template <class T>
-inline void store(std::byte *at, T value) {
-  std::memcpy(at, &value, sizeof value);
-}
-
-// Fields as the host holds them, flags allocated from bit 0 up.
-struct HostForm {
-  template <class T>
-  static T get(const std::byte *at) {
-    return load<T>(at);
-  }
-  template <class T>
-  static void put(std::byte *at, T value) {
-    store(at, value);
-  }
-  static std::uint8_t block_flags(const std::byte *at) { return load<std::uint8_t>(at); }
-  static void put_block_flags(std::byte *at, std::uint8_t flags) { store(at, flags); }
-  static std::uint16_t record_flags(const std::byte *at) { return load<std::uint16_t>(at); }
-  static void put_record_flags(std::byte *at, std::uint16_t flags) { store(at, flags); }
-  static std::uint16_t meta_flags(const std::byte *at) { return load<std::uint16_t>(at); }
-  static void put_meta_flags(std::byte *at, std::uint16_t flags) { store(at, flags); }
-};
 
 template <class Form, class Byte = std::byte>
 class BasicMeta {
@@ -54,11 +24,12 @@ class BasicMeta {
   std::uint8_t service() const { return load<std::uint8_t>(at_ + kMetaServiceAt); }
   std::uint8_t protocol() const { return load<std::uint8_t>(at_ + kMetaProtocolAt); }
   std::uint16_t tag() const { return Form::template get<std::uint16_t>(at_ + kMetaTagAt); }
-  std::uint16_t flags() const { return Form::meta_flags(at_ + kMetaFlagsAt); }
+  std::uint16_t flags() const { return Form::template get_flags<MetaFlags>(at_ + kMetaFlagsAt); }
+  bool mandatory() const { return (flags() & kMetaMandatory) != 0; }
   std::uint16_t client() const { return Form::template get<std::uint16_t>(at_ + kMetaClientAt); }
 
   void set_tag(std::uint16_t tag) { Form::put(at_ + kMetaTagAt, tag); }
-  void set_flags(std::uint16_t flags) { Form::put_meta_flags(at_ + kMetaFlagsAt, flags); }
+  void set_flags(std::uint16_t flags) { Form::template put_flags<MetaFlags>(at_ + kMetaFlagsAt, flags); }
   void set_client(std::uint16_t client) { Form::put(at_ + kMetaClientAt, client); }
 
  private:
@@ -79,7 +50,7 @@ class BasicRecord {
   Byte *bytes() const { return at_; }
 
   std::uint16_t type() const { return Form::template get<std::uint16_t>(at_ + kRecordTypeAt); }
-  std::uint16_t flags() const { return Form::record_flags(at_ + kRecordFlagsAt); }
+  std::uint16_t flags() const { return Form::template get_flags<RecordFlags>(at_ + kRecordFlagsAt); }
   std::uint32_t length() const { return Form::template get<std::uint32_t>(at_ + kRecordLengthAt); }
   bool has_meta() const { return (flags() & kRecordHasMeta) != 0; }
   bool deleted() const { return (flags() & kRecordDeleted) != 0; }
@@ -101,7 +72,7 @@ class BasicRecord {
   }
 
   void set_type(std::uint16_t type) { Form::put(at_ + kRecordTypeAt, type); }
-  void set_flags(std::uint16_t flags) { Form::put_record_flags(at_ + kRecordFlagsAt, flags); }
+  void set_flags(std::uint16_t flags) { Form::template put_flags<RecordFlags>(at_ + kRecordFlagsAt, flags); }
   void set_length(std::uint32_t length) { Form::put(at_ + kRecordLengthAt, length); }
   void mark_deleted() { set_flags(flags() | kRecordDeleted); }
   void set_client_type(std::uint32_t client_type) {
@@ -128,7 +99,7 @@ class BasicBlock {
 
   std::uint16_t magic() const { return Form::template get<std::uint16_t>(at_ + kBlockMagicAt); }
   std::uint8_t version() const { return load<std::uint8_t>(at_ + kBlockVersionAt); }
-  std::uint8_t flags() const { return Form::block_flags(at_ + kBlockFlagsAt); }
+  std::uint8_t flags() const { return Form::template get_flags<BlockFlags>(at_ + kBlockFlagsAt); }
   bool has(std::uint8_t flag) const { return (flags() & flag) != 0; }
   bool foreign() const { return (flags() & kBlockLayoutMask) == kBlockLayoutForeign; }
   std::size_t header_size() const { return foreign() ? kForeignHeaderSize : kHeaderSize; }
@@ -139,7 +110,7 @@ class BasicBlock {
 
   void set_magic(std::uint16_t magic) { Form::put(at_ + kBlockMagicAt, magic); }
   void set_version(std::uint8_t version) { store(at_ + kBlockVersionAt, version); }
-  void set_flags(std::uint8_t flags) { Form::put_block_flags(at_ + kBlockFlagsAt, flags); }
+  void set_flags(std::uint8_t flags) { Form::template put_flags<BlockFlags>(at_ + kBlockFlagsAt, flags); }
   void add_flags(std::uint8_t more) { set_flags(flags() | more); }
   void clear_flags(std::uint8_t gone) { set_flags(static_cast<std::uint8_t>(flags() & ~gone)); }
   void set_block_count(std::uint16_t count) { Form::put(at_ + kBlockCountAt, count); }
@@ -152,8 +123,13 @@ class BasicBlock {
   Byte *end() const { return at_ + used(); }
   std::size_t size() const { return std::size_t{free_bytes()} + used(); }
 
-  BasicBlock next() const { return BasicBlock(load<std::byte *>(at_ + kNextAt)); }
-  void set_next(BasicBlock next) { store(at_ + kNextAt, next.at_); }
+  // Of a list in memory. The field has 64 bits on hosts with narrower addresses, too.
+  BasicBlock next() const {
+    return BasicBlock(reinterpret_cast<Byte *>(static_cast<std::uintptr_t>(load<std::uint64_t>(at_ + kNextAt))));
+  }
+  void set_next(BasicBlock next) { store(at_ + kNextAt, std::uint64_t{reinterpret_cast<std::uintptr_t>(next.at_)}); }
+  // Of a buffer: what the field holds there is an address of the sender, or a 1.
+  bool has_next() const { return load<std::uint64_t>(at_ + kNextAt) != 0; }
   std::uint32_t own_word() const { return load<std::uint32_t>(at_ + kReservedAt); }
   void set_own_word(std::uint32_t word) { store(at_ + kReservedAt, word); }
 

@@ -23,7 +23,7 @@ std::uint16_t live_grouped_records(BlockView block) {
 // does not, when the nested lists do not hold together, or when the block claims to end in its own header: the walk
 // would come back to that block for ever.
 BlockView next_block_in_buffer(BlockView block) {
-  if (!block.next() || block.used() < kHeaderSize) return {};
+  if (!block.has_next() || block.used() < kHeaderSize) return {};
   if (!block.has(kBlockHoldsGrouped)) return BlockView(block.end());
   TrustedReader nested(block.end(), kUnknownLength, live_grouped_records(block));
   return nested.read_to_end() ? BlockView(block.end() + (nested.after() - block.end())) : BlockView();

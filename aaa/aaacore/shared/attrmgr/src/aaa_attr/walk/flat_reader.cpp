@@ -1,6 +1,5 @@
 #include "aaa_attr/walk/flat_reader.h"
 
-#include "aaa_attr/store/network_form.h"
 #include "aaa_attr/store/sub_list.h"
 
 namespace attrmgr {
@@ -89,7 +88,7 @@ bool FlatReader<Form, kRules, Fault>::agrees_with_list() {
 
 template <class Form, FlatRules kRules, class Fault>
 bool FlatReader<Form, kRules, Fault>::goes_on_as_told() {
-  if (asks(FlatRules::kValid) && static_cast<bool>(block_.next()) == is_last_of_list())
+  if (asks(FlatRules::kValid) && block_.has_next() == is_last_of_list())
     return refuse_field(AAA_ATTR_RULE_NEXT, kNextAt);
   return true;
 }
@@ -207,14 +206,14 @@ std::uint32_t FlatReader<Form, kRules, Fault>::list_bits() const {
 }
 
 template class FlatReader<HostForm, FlatRules::kTrusted>;
-template class FlatReader<HostForm, FlatRules::kWhole>;
-template class FlatReader<NetworkForm, FlatRules::kWhole>;
+template class FlatReader<LittleEndianForm, FlatRules::kWhole>;
+template class FlatReader<BigEndianForm, FlatRules::kWhole>;
 template class FlatReader<HostForm, FlatRules::kDecodable>;
 template class FlatReader<HostForm, FlatRules::kValid>;
 
 // Those that say why.
-template class FlatReader<HostForm, FlatRules::kWhole, Named>;
-template class FlatReader<NetworkForm, FlatRules::kWhole, Named>;
+template class FlatReader<LittleEndianForm, FlatRules::kWhole, Named>;
+template class FlatReader<BigEndianForm, FlatRules::kWhole, Named>;
 template class FlatReader<HostForm, FlatRules::kDecodable, Named>;
 template class FlatReader<HostForm, FlatRules::kValid, Named>;
 
