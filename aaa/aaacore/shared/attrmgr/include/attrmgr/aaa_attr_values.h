@@ -11,7 +11,7 @@ AAA_BEGIN_DECLS
 /* The names of a type's values: the name of value v is names[v], for v below count. Numbers without a meaning have
    placeholder names. */
 typedef struct aaa_attr_value_table {
-  const char *const *names;
+  AAA_POINTER(const char *const, names);
   uint64_t count;
 } aaa_attr_value_table;
 

@@ -27,13 +27,13 @@
 
 AAA_BEGIN_DECLS
 
-/* 40 bytes. Clients treat it as opaque; its layout is fixed all the same. */
+/* 40 bytes on every host. Clients treat it as opaque; its layout is fixed all the same. */
 struct aaa_cursor {
-  aaa_attr_block *block;       /* the block that holds the current record */
-  aaa_attr_list_handle handle; /* the list; in buffer mode the address of the buffer */
-  aaa_attr_record *record;     /* the current record; null once a damaged record has ended the walk */
-  uint16_t left;               /* records of the block not yet stepped over */
-  uint32_t filter_service;     /* with filter_protocol: both 0 for no filter */
+  AAA_POINTER(aaa_attr_block, block);   /* the block that holds the current record */
+  aaa_attr_list_handle handle;          /* the list; in buffer mode the address of the buffer */
+  AAA_POINTER(aaa_attr_record, record); /* the current record; null once a damaged record has ended the walk */
+  uint16_t left;                        /* records of the block not yet stepped over */
+  uint32_t filter_service;              /* with filter_protocol: both 0 for no filter */
   uint32_t filter_protocol;
   uint16_t flags; /* AAA_CURSOR_BEFORE_FIRST, AAA_CURSOR_BUFFER */
 };

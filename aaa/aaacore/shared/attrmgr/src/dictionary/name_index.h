@@ -54,7 +54,7 @@ class NameIndex {
       first = word(name);
     }
     const std::uint64_t mixed = first * kMix1 + last * kMix2;
-    return (mixed ^ (mixed >> 32)) * kMix1 >> (64 - kSlotBits);
+    return static_cast<std::size_t>((mixed ^ (mixed >> 32)) * kMix1 >> (64 - kSlotBits));
   }
 
   template <class Rows>

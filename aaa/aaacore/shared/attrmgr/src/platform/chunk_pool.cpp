@@ -103,7 +103,7 @@ struct chunk_pool {
 
 ATTRMGR_REPLACEABLE chunk_pool *chunk_create(const char *, std::uint32_t element_size, std::uint32_t elements_per_chunk,
                                              std::uint32_t, std::uint32_t, std::uint32_t) {
-  if (element_size == 0 || elements_per_chunk == 0) return nullptr;
+  if (element_size == 0 || elements_per_chunk == 0 || element_size > SIZE_MAX - kAlignment) return nullptr;
   const std::size_t size = round_up(element_size);
   if (size > (SIZE_MAX - kChunkHeader) / elements_per_chunk) return nullptr;
   void *memory = std::aligned_alloc(alignof(chunk_pool), sizeof(chunk_pool));

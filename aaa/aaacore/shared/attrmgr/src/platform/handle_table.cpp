@@ -15,7 +15,7 @@ ATTRMGR_REPLACEABLE std::uint64_t id_get(void *first_block, std::uint16_t) {
 
 ATTRMGR_REPLACEABLE void *id_to_ptr(std::uint64_t handle, std::uint32_t *status, std::uint16_t) {
   if (status != nullptr) *status = 0;
-  return reinterpret_cast<void *>(static_cast<std::uintptr_t>(handle));
+  return attrmgr::as_address(handle);
 }
 
 namespace attrmgr {

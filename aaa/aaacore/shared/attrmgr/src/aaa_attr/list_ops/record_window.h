@@ -80,7 +80,7 @@ class RecordWindow {
   // Bits of the hash that have nothing to do with each other.
   static std::uint32_t short_hash(std::uint64_t hash) { return static_cast<std::uint32_t>(hash >> 32); }
   std::size_t num_buckets() const { return std::bit_floor(2 * capacity_); }
-  std::size_t bucket_of(std::uint64_t hash) const { return hash & (num_buckets() - 1); }
+  std::size_t bucket_of(std::uint64_t hash) const { return static_cast<std::size_t>(hash) & (num_buckets() - 1); }
 
   // Calls on_found(the entry before it in the bucket, its own number).
   template <class Test, class OnFound>

@@ -15,7 +15,7 @@ constexpr std::uint32_t kStatusStale = 2;
 // The address that a handle stands for; null for none.
 void *address_named_by(aaa_attr_list_handle list) {
   if (list == 0) return nullptr;
-  if (handles_are_addresses()) return reinterpret_cast<void *>(list);
+  if (handles_are_addresses()) return as_address(list);
   std::uint32_t status = kStatusValid;
   void *address = id_to_ptr(list, &status, handle_table());
   return status == kStatusValid ? address : nullptr;

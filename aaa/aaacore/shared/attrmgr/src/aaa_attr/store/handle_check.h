@@ -21,8 +21,8 @@ struct [[nodiscard]] Resolved {
 // The head where the handle is its address and it is sound, which is what nearly every call finds; else null.
 inline BlockView head_at(aaa_attr_list_handle list) {
   if (list == 0 || !handles_are_addresses()) return {};
-  const BlockView head(reinterpret_cast<std::byte *>(list));
-  return head.magic() == kBlockMagic ? head : BlockView();
+  const BlockView head(static_cast<std::byte *>(as_address(list)));
+  return head && head.magic() == kBlockMagic ? head : BlockView();
 }
 
 // The answer of the handle table in use.

@@ -46,13 +46,13 @@ inline void remove_record(BlockView head, RecordView record) {
 void set_tail(BlockView head, BlockView last);
 
 // The blocks are separate allocations: distances between them are those of addresses, not of pointers.
-inline std::intptr_t address_of(BlockView block) { return reinterpret_cast<std::intptr_t>(block.bytes()); }
+inline std::uintptr_t address_of(BlockView block) { return reinterpret_cast<std::uintptr_t>(block.bytes()); }
 
 inline BlockView last_block(BlockView head) {
   const BlockView second = head.next();
   if (!second) return head;
   const auto distance = static_cast<std::int32_t>(head.own_word() & kTailHint);
-  BlockView last(reinterpret_cast<std::byte *>(address_of(second) + distance));
+  BlockView last(reinterpret_cast<std::byte *>(address_of(second) + static_cast<std::uintptr_t>(distance)));
   while (const BlockView next = last.next()) last = next;
   return last;
 }
