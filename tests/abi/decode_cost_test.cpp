@@ -40,10 +40,10 @@ constexpr std::size_t kGrowth = 8;
 constexpr double kTimeGrowthMax = 2.5 * kGrowth;
 
 Bytes empty_blocks(unsigned layout, std::size_t count) {
-  Bytes buffer = flat({block(layout | kHead, static_cast<unsigned>(count), {})});
+  Bytes buffer = join({{AAA_MARSHAL_BUFFER}, block(layout | kHead, static_cast<unsigned>(count), {})});
   append(&buffer, repeated(count - 2, block(layout, 1, {})));
   append(&buffer, block(layout | kLast, 1, {}));
-  return buffer;
+  return host_form(buffer);
 }
 
 const Bytes &grouped() {

@@ -154,7 +154,8 @@ Pair pair_of(const char *what, std::uint32_t count, const std::function<Bytes(st
   }
   const auto wrap = [count](const Bytes &packed) {  // as many records of one size as fit a block
     const std::size_t size = packed.size() / count, per_block = (65'535 - 24) / size;
-    Bytes buffer = flat({block(kHead, static_cast<unsigned>(1 + (count + per_block - 1) / per_block), {})});
+    Bytes buffer =
+        join({{AAA_MARSHAL_BUFFER}, block(kHead, static_cast<unsigned>(1 + (count + per_block - 1) / per_block), {})});
     for (std::size_t at = 0; at < packed.size(); at += per_block * size) {
       const Bytes part(packed.begin() + static_cast<std::ptrdiff_t>(at),
                        packed.begin() + static_cast<std::ptrdiff_t>(std::min(packed.size(), at + per_block * size)));
@@ -162,7 +163,7 @@ Pair pair_of(const char *what, std::uint32_t count, const std::function<Bytes(st
       std::copy_n(little(part.size() / size, 2).data(), 2, &made[6]);
       append(&buffer, made);
     }
-    return buffer;
+    return host_form(buffer);
   };
   return {what, wrap(records[0]), wrap(records[1])};
 }

@@ -67,6 +67,14 @@ std::string number_or_code(Call call) {
   return out.str();
 }
 
+// What the first bytes of a value are as a number, as number_or_code() gives it.
+template <class T>
+std::string number_of(std::string_view bytes) {
+  std::ostringstream out;
+  out << std::hex << number_in<T>(bytes);
+  return out.str();
+}
+
 // What all readers say of the current attribute.
 std::string readings(const aaa_cursor *cursor) {
   std::uint32_t length = 99, text_length = 99;
@@ -99,16 +107,16 @@ TEST(CursorReaders, AnswerForTheCurrentRecordOnly) {
       "force-local-chap format 12 length 1/1, text null/99, u32 BAD_FORMAT, u64 BAD_FORMAT, group BAD_FORMAT, ulong "
       "BAD_ARG, offset BAD_ARG, " +
       no_meta + ", producer 0, grouped 0, class 00";
+  const std::string loopback = number_of<std::uint32_t>({"\x7f\0\0\1", 4}), abc = number_of<std::uint32_t>("abc"),
+                    digits = number_of<std::uint64_t>("1234567");
   const std::string positions[] = {
       none,  // before the first record
-      "addr format 7 length 4/4, text null/99, u32 100007f, u64 BAD_FORMAT, group BAD_FORMAT, ulong 100007f, offset "
-      "BAD_ARG, meta client 11 tag 9 mandatory 1, producer 23, grouped 0, class 11",
-      "username format 1 length 3/3, text abc/3, u32 636261, u64 BAD_FORMAT, group BAD_FORMAT, ulong 636261, offset "
-      "BAD_ARG, " +
-          no_meta + ", producer 127, grouped 0, class 01",
-      "username format 1 length 7/7, text 1234567/7, u32 BAD_FORMAT, u64 37363534333231, group 37363534333231, ulong "
-      "34333231, offset BAD_ARG, " +
-          no_meta + ", producer 0, grouped 0, class 01",
+      "addr format 7 length 4/4, text null/99, u32 " + loopback + ", u64 BAD_FORMAT, group BAD_FORMAT, ulong " +
+          loopback + ", offset BAD_ARG, meta client 11 tag 9 mandatory 1, producer 23, grouped 0, class 11",
+      "username format 1 length 3/3, text abc/3, u32 " + abc + ", u64 BAD_FORMAT, group BAD_FORMAT, ulong " + abc +
+          ", offset BAD_ARG, " + no_meta + ", producer 127, grouped 0, class 01",
+      "username format 1 length 7/7, text 1234567/7, u32 BAD_FORMAT, u64 " + digits + ", group " + digits + ", ulong " +
+          number_of<std::uint32_t>("1234") + ", offset BAD_ARG, " + no_meta + ", producer 0, grouped 0, class 01",
       "Failed AVP format 5 length 8/8, text null/99, u32 BAD_FORMAT, u64 0, group 0, ulong 0, offset BAD_ARG, " +
           no_meta + ", producer 0, grouped 1, class 00",
       last,
@@ -210,8 +218,8 @@ TEST(Find, NumbersAreReadByLengthAndTextsByFormat) {
   list.number(0, 1).number(type::kUlong, 5);
   const std::string no_text = "length NOT_FOUND, text BAD_ARG, u32 NOT_FOUND, u64 NOT_FOUND";
   const std::tuple<aaa_attr_list_handle, std::uint32_t, std::string> rows[] = {
-      {list, type::kString, "length 3, text abc/3, u32 636261, u64 BAD_ARG"},
-      {list, type::kBinary, "length 8, text BAD_ARG, u32 BAD_ARG, u64 3837363534333231"},
+      {list, type::kString, "length 3, text abc/3, u32 " + number_of<std::uint32_t>("abc") + ", u64 BAD_ARG"},
+      {list, type::kBinary, "length 8, text BAD_ARG, u32 BAD_ARG, u64 " + number_of<std::uint64_t>("12345678")},
       {list, type_named('V'), "length NOT_FOUND, text NOT_FOUND, u32 NOT_FOUND, u64 NOT_FOUND"},
       {list, 700, "length 2, text BAD_ARG, u32 BAD_ARG, u64 BAD_ARG"},
       {list, 0, no_text},

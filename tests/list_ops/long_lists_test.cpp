@@ -6,7 +6,7 @@
 #include <map>
 #include <random>
 
-#include "support/lists.h"
+#include "support/hostile.h"
 
 namespace {
 
@@ -103,7 +103,8 @@ TEST(LongList, EndsAtTypeZeroThatCameInABuffer) {
   ASSERT_EQ(aaa_attr_list_append_list(list, long_list(2, 50)), 0u);
   list.number(301, 1);
   Bytes buffer = flat_buffer(list);
-  const Bytes record = hex("30010000 04000000 34120000");
+  const Bytes record = join({in_host_order<std::uint16_t>(304), in_host_order<std::uint16_t>(0),
+                             in_host_order<std::uint32_t>(4), in_host_order<std::uint32_t>(0x1234)});
   const auto at = std::search(buffer.begin(), buffer.end(), record.begin(), record.end());
   ASSERT_NE(at, buffer.end());
   at[0] = at[1] = 0;

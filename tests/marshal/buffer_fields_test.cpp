@@ -50,7 +50,7 @@ std::string text_of(const Fields &fields) {
 }
 
 TEST(Fields, OfAFlatBuffer) {
-  const Bytes buffer = patched(hex(golden::kNested), "17=0100000000000000");
+  const Bytes buffer = golden_buffer(golden::kNested, "17=0100000000000000");
   const Fields host = fields_of(buffer, AAA_ATTR_READER_LIST);
   EXPECT_EQ(text_of(host), R"( marker=1
 1 magic=43981 version=1 flags=37 blocks=2 records=3 free=440 used=72 reserved=0 next=1
@@ -77,10 +77,10 @@ TEST(Fields, OfAFlatBuffer) {
 
 TEST(Fields, OfOtherBuffers) {
   const std::tuple<const char *, Bytes, const char *> rows[] = {
-      {"foreign layout", hex(golden::kForeign), R"( marker=1
+      {"foreign layout", golden_buffer(golden::kForeign), R"( marker=1
 1 magic=43981 version=1 flags=19 blocks=1 records=1 free=484 used=28 next=0
 17 type=2 flags=0 length=4 value+4)"},
-      {"TLV", join({hex(golden::kTlvNested), {0xEE}}), R"( marker=2
+      {"TLV", join({golden_buffer(golden::kTlvNested), {0xEE}}), R"( marker=2
 1 total=83
 5 type=197 meta length=8 service=1 protocol=2 tag=4660 flags=1 client=16 length=3 value+3
 28 type=444 meta length=0
@@ -90,19 +90,19 @@ TEST(Fields, OfOtherBuffers) {
     64 total=4
 68 type=2 meta length=0 length=4 value+4
 84 unread+1)"},
-      {"no magic", patched(hex(golden::kOneUlong), "1=00"), R"( marker=1
+      {"no magic", golden_buffer(golden::kOneUlong, "1=00"), R"( marker=1
 1 magic=43776
 3 unread+34)"},
-      {"a header cut short", head_of(hex(golden::kOneUlong), 12), R"( marker=1
+      {"a header cut short", head_of(golden_buffer(golden::kOneUlong), 12), R"( marker=1
 1 magic=43981 version=1 flags=35 blocks=1 records=1 free=476 used-1)"},
-      {"a value cut short", patched(head_of(hex(golden::kOneUlong), 35), "11=22"), R"( marker=1
+      {"a value cut short", head_of(golden_buffer(golden::kOneUlong, "11=22"), 35), R"( marker=1
 1 magic=43981 version=1 flags=35 blocks=1 records=1 free=476 used=34 reserved=0 next=0
 25 type=2 flags=0 length=4 value+2-2)"},
-      {"a record more than there are", patched(join({hex(golden::kOneUlong), {0xEE}}), "7=02"), R"( marker=1
+      {"a record more than there are", join({golden_buffer(golden::kOneUlong, "7=02"), {0xEE}}), R"( marker=1
 1 magic=43981 version=1 flags=35 blocks=1 records=2 free=476 used=36 reserved=0 next=0
 25 type=2 flags=0 length=4 value+4
 37 unread+1)"},
-      {"a nested total too large", patched(hex(golden::kTlvNested), "36=31"), R"( marker=2
+      {"a nested total too large", golden_buffer(golden::kTlvNested, "36=31"), R"( marker=2
 1 total=83
 5 type=197 meta length=8 service=1 protocol=2 tag=4660 flags=1 client=16 length=3 value+3
 28 type=444 meta length=0
@@ -111,13 +111,13 @@ TEST(Fields, OfOtherBuffers) {
   56 type=445 meta length=0
     64 total=4
   68 type=2 meta length=0 length=4 value+4)"},
-      {"a TLV buffer cut short", head_of(hex(golden::kTlvNested), 54), R"( marker=2
+      {"a TLV buffer cut short", head_of(golden_buffer(golden::kTlvNested), 54), R"( marker=2
 1 total=83
 5 type=197 meta length=8 service=1 protocol=2 tag=4660 flags=1 client=16 length=3 value+3
 28 type=444 meta length=0
   36 total=32
   40 type=2 meta length=0 length=4 value+2-2)"},
-      {"a TLV value cut short by its list", patched(hex(golden::kTlvNested), "48=11 36=14"), R"( marker=2
+      {"a TLV value cut short by its list", golden_buffer(golden::kTlvNested, "48=11 36=14"), R"( marker=2
 1 total=83
 5 type=197 meta length=8 service=1 protocol=2 tag=4660 flags=1 client=16 length=3 value+3
 28 type=444 meta length=0
@@ -154,7 +154,7 @@ TEST(Fields, CoverEveryByteOfAnyBuffer) {
       expect_cover(row.buffer);
     }
   for (const char *golden : {golden::kForeign, golden::kNested, golden::kTlvNested}) {
-    const Bytes buffer = hex(golden);
+    const Bytes buffer = golden_buffer(golden);
     for (std::size_t size = 1; size < buffer.size(); ++size) expect_cover(head_of(buffer, size));
     for (std::size_t bit = 0; bit < buffer.size() * 8; ++bit) {
       SCOPED_TRACE("byte " + std::to_string(bit / 8) + " bit " + std::to_string(bit % 8));

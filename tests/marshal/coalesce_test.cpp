@@ -26,7 +26,8 @@ TEST(Coalesce, DropsHolesAndEmptyBlocks) {
   Bytes buffer(size);
   EXPECT_EQ(aaa_attr_list_to_buffer_v1(list, buffer.data(), &size), 0u);
   const Bytes records = join({record(2, {"\1\0\0\0", 4}), record(2, {"\3\0\0\0", 4})});
-  EXPECT_EQ(head_of(buffer, size), join({hex("01 cdab0123 0100 0200 d001 3000 00000000 0000000000000000"), records}));
+  EXPECT_EQ(head_of(buffer, size),
+            host_form(join({hex("01 cdab0123 0100 0200 d001 3000 00000000 0000000000000000"), records})));
   std::uint32_t status = 0;
   const auto *head = static_cast<const std::uint8_t *>(id_to_ptr(list, &status, 0));
   EXPECT_EQ(Bytes(head + 48, head + 512), Bytes(464)) << "no removed value is left behind";

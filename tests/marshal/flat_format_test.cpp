@@ -9,23 +9,25 @@
 
 namespace {
 
-constexpr aaa_attr_meta kMeta = {1, 2, 0x1234, 1, 0x10};
+constexpr aaa_attr_meta kMeta = {1, 2, 0x1234, AAA_ATTR_META_MANDATORY, 0x10};
 
 TEST(BufferFormat, Goldens) {
   List outer;
   const aaa_attr_list_handle inner = outer.group(type::kGrouped, &kMeta);
   List(inner).number(type::kUlong, 5).release();
   const Bytes before =
-      hex("01  cdab0127 0100 0100 d001 3000 00000000 0000000000000000  bc01 0100 08000000 0102341201001000");
-  EXPECT_EQ(flat_buffer(outer), join({before, little(inner, 8), hex(golden::kOneUlong + 2)}));
+      golden_buffer("01  cdab0127 0100 0100 d001 3000 00000000 0000000000000000  bc01 0100 08000000 0102341201001000");
+  const Bytes nested_list = golden_buffer(golden::kOneUlong);
+  EXPECT_EQ(flat_buffer(outer),
+            join({before, in_host_order<std::uint64_t>(inner), Bytes(nested_list.begin() + 1, nested_list.end())}));
 
   // What was read is written again, but for the sender's addresses.
   List nested;
-  ASSERT_EQ(decode(hex(golden::kNested), &nested), 0u);
+  ASSERT_EQ(decode(golden_buffer(golden::kNested), &nested), 0u);
   EXPECT_EQ(outline(nested), golden::kNestedOutline);
   Bytes written = flat_buffer(nested);
   EXPECT_EQ(aaa_attr_buffer_scrub(written.data(), size_of(written)), 0u);
-  EXPECT_EQ(written, patched(hex(golden::kNested), "17=0100000000000000 53=0000000000000000 141=0000000000000000"));
+  EXPECT_EQ(written, golden_buffer(golden::kNested, "17=0100000000000000 53=0000000000000000 141=0000000000000000"));
 
   // A TLV buffer has no removed records and no producer client types; a text goes without its NUL.
   List tlv;
@@ -34,7 +36,7 @@ TEST(BufferFormat, Goldens) {
   sub_list.number(2, 5).group(445);
   sub_list.release();
   aaa_attr_remove(tlv.number(2, 7), 3);
-  EXPECT_EQ(tlv_buffer(tlv), hex(golden::kTlvNested));
+  EXPECT_EQ(tlv_buffer(tlv), golden_buffer(golden::kTlvNested));
   std::uint32_t size = 0;
   EXPECT_EQ(aaa_attr_list_tlv_buffer_len(tlv, &size), 0u);
   EXPECT_EQ(size, 79u);
@@ -50,7 +52,7 @@ TEST(BufferFormat, CapacityIsNegotiated) {
   List list;
   list.number(type::kUlong, 5);
   for (const auto &[encode, digits, complaint, bad_list, bad_list_size] : forms) {
-    const Bytes bytes = hex(digits);
+    const Bytes bytes = golden_buffer(digits);
     const std::uint32_t needed = size_of(bytes);
     for (std::uint32_t capacity = 0; capacity <= needed + 2; ++capacity) {
       SCOPED_TRACE(capacity);

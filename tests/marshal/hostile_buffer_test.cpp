@@ -108,13 +108,19 @@ void expect_by_the_rules(const Bytes &buffer) {
   if (valid == 0) read_in_place(buffer);
 }
 
+// Where a big-endian host's buffers are in network form, it is the other rows that say what else refuses them.
+bool only_translated(const malformed::Section &section) {
+  return kBigEndianHost && section.direction == CDM_ENDIAN_TRAN_NTOH;
+}
+
 TEST(Hostile, Table) {
   for (const malformed::Section &section : malformed::sections())
     for (const malformed::Case &row : section.cases) {
       SCOPED_TRACE(std::string(section.title) + ": " + row.what);
+      EXPECT_EQ(translate(row.buffer, section.direction), row.translate);
+      if (only_translated(section)) continue;
       EXPECT_EQ(decode_soundly(row.buffer), row.decode);
       EXPECT_EQ(check(row.buffer), row.check);
-      EXPECT_EQ(translate(row.buffer, section.direction), row.translate);
       if (row.buffer[0] == AAA_MARSHAL_BUFFER) expect_by_the_rules(row.buffer);
     }
 }
@@ -129,6 +135,7 @@ TEST(Hostile, TheRuleIsNamed) {
           {'T', section.direction == CDM_ENDIAN_TRAN_HTON ? AAA_ATTR_READER_HTON : AAA_ATTR_READER_NTOH,
            row.translate}};
       for (const auto &[who, reader, expected] : readers) {
+        if (who != 'T' && only_translated(section)) continue;
         SCOPED_TRACE(std::string(section.title) + ": " + row.what + ", to " + who);
         aaa_attr_fault fault;
         EXPECT_EQ(aaa_attr_buffer_fault(row.buffer.data(), size_of(row.buffer), reader, &fault), expected);
@@ -142,7 +149,7 @@ TEST(Hostile, TheRuleIsNamed) {
 }
 
 TEST(Hostile, FaultOfNothing) {
-  const Bytes buffer = hex(golden::kNested);
+  const Bytes buffer = golden_buffer(golden::kNested);
   aaa_attr_fault fault = {77, 77};
   EXPECT_EQ(aaa_attr_buffer_fault(buffer.data(), size_of(buffer), AAA_ATTR_READER_LIST, nullptr), AAA_ATTR_ERR_BAD_ARG);
   const std::tuple<const char *, const std::uint8_t *, std::uint32_t, int> rows[] = {
@@ -175,7 +182,7 @@ TEST(Hostile, EveryRuleHasASentenceOfItsOwn) {
 
 TEST(Hostile, CutAtEveryLength) {
   for (const char *golden : {golden::kForeign, golden::kNested, golden::kTlvNested}) {
-    const Bytes buffer = hex(golden);
+    const Bytes buffer = golden_buffer(golden);
     for (std::size_t size = 2; size < buffer.size(); ++size) {
       SCOPED_TRACE(size);
       const Bytes cut = head_of(buffer, size);
@@ -189,7 +196,7 @@ TEST(Hostile, CutAtEveryLength) {
 
 TEST(Hostile, EveryBitFlip) {
   for (const char *golden : {golden::kForeign, golden::kNested, golden::kTlvNested}) {
-    const Bytes buffer = hex(golden);
+    const Bytes buffer = golden_buffer(golden);
     for (std::size_t bit = 8; bit < buffer.size() * 8; ++bit) {
       SCOPED_TRACE("byte " + std::to_string(bit / 8) + " bit " + std::to_string(bit % 8));
       const Bytes bytes = flipped(buffer, bit);

@@ -109,7 +109,8 @@ inline void erase(Attr &a, SubList sub) {
 }
 inline bool replaces(const Meta &a, const Meta &b) {
   if (!a || !b) return !a && !b;
-  return a->service == b->service && a->protocol == b->protocol && a->tag == b->tag && a->flags % 2 == b->flags % 2;
+  return a->service == b->service && a->protocol == b->protocol && a->tag == b->tag &&
+         ((a->flags ^ b->flags) & AAA_ATTR_META_MANDATORY) == 0;
 }
 // The first version takes no client type, and adds beside an attribute with another meta.
 template <int version>

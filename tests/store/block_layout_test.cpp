@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "support/blocks.h"
+#include "support/hostile.h"
 #include "support/list_text.h"
 
 namespace {
@@ -9,13 +10,14 @@ namespace {
 TEST(BlockLayout, RecordsArePackedAfterTheHeader) {
   List list;
   const std::uint32_t number = 0x12345678;
-  const aaa_attr_meta meta = {3, 7, 0x0A0B, 0x8001, 0x0C0D};
+  const aaa_attr_meta meta = {3, 7, 0x0A0B, host_meta_flags(0x8001), 0x0C0D};
   EXPECT_EQ(aaa_attr_add_v1(list, type::kUlong, &number, 4, &meta, 5), 0u);
   EXPECT_EQ(aaa_attr_add_v1(list, type::kString, "abc", 3, nullptr, 0x1FF), 0u);
   EXPECT_EQ(aaa_attr_add_v1(list, type::kBinary, "abc", 3, nullptr, 1), 0u);
   EXPECT_EQ(aaa_attr_remove(list, type::kBinary), 0u);
   EXPECT_EQ(aaa_attr_add_existing_group_list(list, 0, type::kGrouped, nullptr), 0u);
-  EXPECT_EQ(Block(list).bytes(), hex(R"(
+  EXPECT_EQ(join({{AAA_MARSHAL_BUFFER}, Block(list).bytes()}), golden_buffer(R"(
+    01
     cd ab 01 27              # a Grouped record came
     01 00 04 00 ad 01 53 00  # the removed record still counts
     01 00 00 00              # the library's own word: coalescing has something to do

@@ -22,6 +22,13 @@ struct Block {
   void put(std::size_t offset, std::uint16_t value) const { std::memcpy(at(offset), &value, sizeof value); }
 
   std::uint16_t used() const { return get(10); }
+  // As a little-endian host has them.
+  unsigned flags() const {
+    return kBigEndianHost ? byte_order::moved_bits(*at(3), byte_order::kBlockFlagPlaces, true) : *at(3);
+  }
+  Block next() const {
+    return Block(reinterpret_cast<std::uint8_t *>(static_cast<std::uintptr_t>(get<std::uint64_t>(16))));
+  }
   Bytes bytes() const { return Bytes(at(0), at(used())); }
 
   std::uint8_t *bytes_;
@@ -29,7 +36,7 @@ struct Block {
 
 inline std::vector<Block> blocks_of(aaa_attr_list_handle list) {
   std::vector<Block> blocks;
-  for (Block block(list); block.at(0) != nullptr; block = Block(block.get<std::uint8_t *>(16))) blocks.push_back(block);
+  for (Block block(list); block.at(0) != nullptr; block = block.next()) blocks.push_back(block);
   return blocks;
 }
 
@@ -38,7 +45,7 @@ inline std::string shape(aaa_attr_list_handle list) {
   std::string text;
   for (const Block block : blocks_of(list)) {
     char line[64];
-    std::snprintf(line, sizeof line, "%s%02x %u %u %u+%u", text.empty() ? "" : " | ", *block.at(3), block.get(4),
+    std::snprintf(line, sizeof line, "%s%02x %u %u %u+%u", text.empty() ? "" : " | ", block.flags(), block.get(4),
                   block.get(6), block.used(), block.get(8));
     text += line;
   }

@@ -5,6 +5,7 @@
 #include <attrmgr/attrmgr.h>
 
 #include <algorithm>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -48,14 +49,22 @@ class Reading {
   }
 
  private:
-  static constexpr std::size_t kHeadRoom = 488;  // for records, in a block of 512 bytes
+  static constexpr bool kTop = std::endian::native == std::endian::big;  // flags begin there, and numbers
+  static constexpr std::size_t kHeadRoom = 488;                          // for records, in a block of 512 bytes
   static constexpr std::size_t kRoom = 65'511;
   enum : unsigned { kHead = 1, kLast = 2, kGroups = 4, kLayout = 0x30, kForeign = 0x10 };
 
   std::uint64_t number(std::size_t at, unsigned width) const {
     std::uint64_t value = 0;
-    for (unsigned i = 0; i < width; ++i) value |= std::uint64_t{bytes_[at + i]} << 8 * i;
+    for (unsigned i = 0; i < width; ++i) value |= std::uint64_t{bytes_[at + i]} << 8 * (kTop ? width - 1 - i : i);
     return value;
+  }
+  unsigned block_flags(std::size_t block) const {
+    const unsigned flags = bytes_[block + 3];
+    return kTop ? (flags >> 7 & kHead) | (flags >> 5 & kLast) | (flags >> 3 & kGroups) | (flags << 2 & kLayout) : flags;
+  }
+  bool record_flag(std::size_t record, unsigned bit) const {
+    return (number(record + 2, 2) >> (kTop ? 15 - bit : bit) & 1) != 0;
   }
 
   std::size_t new_list() {
@@ -78,7 +87,7 @@ class Reading {
       if (size_ == block) return broken(depth > 0 ? AAA_ATTR_RULE_OWNED_LIST : AAA_ATTR_RULE_FIRST_BLOCK, block);
       if (size_ - block < 12) return broken(AAA_ATTR_RULE_BLOCK_HEADER, block);
       if (number(block, 2) != 0xABCD) return broken(AAA_ATTR_RULE_MAGIC, block);
-      const unsigned flags = bytes_[block + 3];
+      const unsigned flags = block_flags(block);
       const bool head = (flags & kHead) != 0;
       const std::size_t header = (flags & kLayout) == kForeign ? 16 : 24;
       if (first && !head && !translation_) return broken(AAA_ATTR_RULE_HEAD_FLAG, block + 3);
@@ -131,7 +140,7 @@ class Reading {
 
   bool block_records(std::size_t list_number, std::size_t block, std::size_t header, std::size_t end,
                      std::vector<std::size_t> *nested) {
-    const bool holds_grouped = (bytes_[block + 3] & kGroups) != 0;
+    const bool holds_grouped = (block_flags(block) & kGroups) != 0;
     bool has_grouped = false;
     std::vector<Record> found;
     std::size_t at = block + header;
@@ -142,8 +151,8 @@ class Reading {
       record.at = at;
       record.type = static_cast<std::uint32_t>(number(at, 2));
       record.format = aaa_attr_get_format_from_type(record.type);
-      record.has_meta = (bytes_[at + 2] & 1) != 0;
-      record.removed = (bytes_[at + 2] & 2) != 0;
+      record.has_meta = record_flag(at, 0);
+      record.removed = record_flag(at, 1);
       record.length = static_cast<std::uint32_t>(number(at + 4, 4));
       const std::size_t value_after = record.has_meta ? 16 : 8;
       if (end - at < value_after) return broken(AAA_ATTR_RULE_RECORD_META, at + 2);

@@ -55,6 +55,9 @@ inline Bytes head_of(const Bytes &buffer, std::size_t size) {
   return Bytes(buffer.begin(), buffer.begin() + static_cast<std::ptrdiff_t>(size));
 }
 
+// Buffers are put together, and patched, as those of a little-endian host; flat(), tlv_of() and golden_buffer() give
+// what this host would have.
+
 // The low bytes of a number, least significant first.
 inline Bytes little(std::uint64_t number, unsigned size) {
   Bytes bytes;
@@ -80,7 +83,10 @@ inline Bytes block(unsigned flags, unsigned num_blocks, std::initializer_list<By
                little(used, 2), foreign ? Bytes() : Bytes(4), little(flags & kLast ? 0 : 1, foreign ? 4 : 8), packed});
 }
 
-inline Bytes flat(std::initializer_list<Bytes> blocks) { return join({Bytes{1}, join(blocks)}); }
+inline Bytes flat(std::initializer_list<Bytes> blocks) { return host_form(join({{AAA_MARSHAL_BUFFER}, join(blocks)})); }
+inline Bytes tlv_of(const Bytes &records) {
+  return host_form(join({{AAA_MARSHAL_TLV}, little(records.size() + 4, 4), records}));
+}
 
 // The buffer with bytes written over it: "offset=hexadecimal ...".
 inline Bytes patched(Bytes buffer, std::string_view patches) {
@@ -90,4 +96,9 @@ inline Bytes patched(Bytes buffer, std::string_view patches) {
     for (const std::uint8_t byte : hex(patch.substr(patch.find('=') + 1))) buffer.at(at++) = byte;
   }
   return buffer;
+}
+
+// One of the buffers above, with bytes written over it before it is turned to the host's order.
+inline Bytes golden_buffer(std::string_view golden, std::string_view patches = "") {
+  return host_form(patched(hex(golden), patches));
 }

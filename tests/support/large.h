@@ -14,8 +14,6 @@ inline Bytes repeated(std::size_t times, const Bytes &bytes) {
   return all;
 }
 
-inline Bytes tlv_of(const Bytes &records) { return join({{AAA_MARSHAL_TLV}, little(records.size() + 4, 4), records}); }
-
 inline Bytes tlv_record(std::uint32_t type, const Bytes &content) {
   return join({little(type, 4), little(0, 4), content});
 }
@@ -26,7 +24,7 @@ inline Bytes flat_of(unsigned layout, std::size_t num_records, const Bytes &reco
   const std::size_t per_block = (65'535 - 24) / record.size();
   const std::size_t num_blocks = 1 + (num_records + per_block - 1) / per_block;
   const unsigned flags = layout | (nested.empty() ? 0u : kGroups);
-  Bytes buffer = flat({block(layout | kHead, static_cast<unsigned>(num_blocks), {})});
+  Bytes buffer = join({{AAA_MARSHAL_BUFFER}, block(layout | kHead, static_cast<unsigned>(num_blocks), {})});
   for (std::size_t left = num_records; left > 0;) {
     const std::size_t here = std::min(left, per_block);
     left -= here;
@@ -35,7 +33,7 @@ inline Bytes flat_of(unsigned layout, std::size_t num_records, const Bytes &reco
     append(&buffer, packed);
     append(&buffer, repeated(here, nested));
   }
-  return buffer;
+  return host_form(buffer);
 }
 
 // The processor time of this thread: what else runs on the machine matters little.

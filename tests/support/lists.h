@@ -3,6 +3,7 @@
 
 #include <attrmgr/attrmgr.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -10,7 +11,8 @@
 #include <string>
 #include <string_view>
 #include <utility>
-#include <vector>
+
+#include "support/byte_order.h"
 
 // Types of the dictionary, one of each format, that many tests use.
 namespace type {
@@ -74,28 +76,6 @@ class List {
   aaa_attr_list_handle handle_ = 0;
 };
 
-using Bytes = std::vector<std::uint8_t>;
-
-// Bytes from hexadecimal digits; blanks and line ends are passed over, '#' begins a comment that ends with the line.
-inline Bytes hex(std::string_view digits) {
-  Bytes bytes;
-  int high = -1;
-  bool comment = false;
-  for (const char c : digits) {
-    if (c == '#' || c == '\n') comment = c == '#';
-    if (comment) continue;
-    const std::size_t value = std::string_view("0123456789abcdef").find(static_cast<char>(c | 0x20));
-    if (value == std::string_view::npos) continue;
-    if (high < 0) {
-      high = static_cast<int>(value);
-    } else {
-      bytes.push_back(static_cast<std::uint8_t>(high * 16 + static_cast<int>(value)));
-      high = -1;
-    }
-  }
-  return bytes;
-}
-
 // The list as a flat buffer (as it stands), as a TLV buffer; empty on failure.
 inline Bytes flat_buffer(aaa_attr_list_handle list) {
   std::uint32_t size = 0;
@@ -115,8 +95,9 @@ inline aaa_attr_cerrno decode(const Bytes &buffer, List *list) {
   return aaa_attr_buffer_to_list(buffer.data(), static_cast<std::uint32_t>(buffer.size()), list->out());
 }
 
-// A list's attributes as text, "type=value" each: what it holds and in which order. Values in hexadecimal, sub-lists in
-// braces; a meta as "[service,protocol,tag,flags,client]" and a producer client type as "@n" after the type.
+// A list's attributes as text, "type=value" each: what it holds and in which order. Values in hexadecimal, numbers
+// least significant byte first, sub-lists in braces; a meta as "[service,protocol,tag,flags,client]", flags as
+// little-endian hosts have them, and a producer client type as "@n" after the type.
 inline std::string outline(aaa_attr_list_handle list) {
   std::string text;
   aaa_cursor *cursor = nullptr;
@@ -126,7 +107,8 @@ inline std::string outline(aaa_attr_list_handle list) {
     text += std::to_string(type);
     if (const aaa_attr_meta *meta = aaa_cursor_get_meta(cursor))
       text += '[' + std::to_string(meta->service) + ',' + std::to_string(meta->protocol) + ',' +
-              std::to_string(meta->tag) + ',' + std::to_string(meta->flags) + ',' + std::to_string(meta->client) + ']';
+              std::to_string(meta->tag) + ',' + std::to_string(little_meta_flags(meta->flags)) + ',' +
+              std::to_string(meta->client) + ']';
     if (const std::uint32_t client_type = aaa_cursor_get_producer_client_type(cursor))
       text += '@' + std::to_string(client_type);
     text += '=';
@@ -137,11 +119,14 @@ inline std::string outline(aaa_attr_list_handle list) {
       continue;
     }
     std::uint32_t length = 0;
-    const auto *value = static_cast<const std::uint8_t *>(aaa_cursor_get(cursor, &length));
-    for (std::uint32_t i = 0; i < length; ++i) {
+    const auto *at = static_cast<const std::uint8_t *>(aaa_cursor_get(cursor, &length));
+    Bytes value(at, at + length);
+    if (kBigEndianHost && byte_order::is_number(aaa_cursor_get_format(cursor)))
+      std::reverse(value.begin(), value.end());
+    for (const std::uint8_t byte : value) {
       constexpr char kDigits[] = "0123456789abcdef";
-      text += kDigits[value[i] >> 4];
-      text += kDigits[value[i] & 0xF];
+      text += kDigits[byte >> 4];
+      text += kDigits[byte & 0xF];
     }
   }
   aaa_cursor_free(cursor);

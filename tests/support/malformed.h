@@ -47,7 +47,7 @@ inline Case flat_case(const char *what, Bytes buffer, std::string_view refused_b
 
 inline Case nested(const char *what, const char *patches, std::string_view refused_by, aaa_attr_fault fault,
                    const char *reason, std::vector<Other> others = {}) {
-  return flat_case(what, patched(hex(golden::kNested), patches), refused_by, fault, reason, std::move(others));
+  return flat_case(what, golden_buffer(golden::kNested, patches), refused_by, fault, reason, std::move(others));
 }
 
 // Only the decoder reads what is not marked as flat.
@@ -65,16 +65,13 @@ inline Case other_case(const char *what, Bytes buffer, aaa_attr_cerrno decode, a
 
 inline Case tlv(const char *what, const char *patches, aaa_attr_cerrno decode, aaa_attr_fault fault,
                 const char *reason) {
-  return other_case(what, patched(hex(golden::kTlvNested), patches), decode, fault, reason);
+  return other_case(what, golden_buffer(golden::kTlvNested, patches), decode, fault, reason);
 }
 
 // In network form.
 inline Case network(const char *what, const char *patches, std::string_view refused_by, aaa_attr_fault fault,
                     const char *reason) {
-  Bytes buffer = hex(golden::kNested);
-  char *const bytes = reinterpret_cast<char *>(buffer.data());
-  must(aaa_attrs_buffer_tran_v1(bytes, size_of(buffer), CDM_ENDIAN_TRAN_HTON), "translating a good buffer");
-  return flat_case(what, patched(buffer, patches), refused_by, fault, reason,
+  return flat_case(what, patched(network_form(hex(golden::kNested)), patches), refused_by, fault, reason,
                    {{'D', kOtherByteOrder}, {'V', kOtherByteOrder}});
 }
 
@@ -89,11 +86,11 @@ inline Bytes nested_lists(unsigned depth) {
 inline Bytes nested_tlv(unsigned depth) {
   Bytes body = little(4, 4);
   for (unsigned i = 0; i < depth; ++i) body = join({little(body.size() + 12, 4), little(type::kGrouped, 8), body});
-  return join({{AAA_MARSHAL_TLV}, body});
+  return host_form(join({{AAA_MARSHAL_TLV}, body}));
 }
 
 inline Bytes tlv_binary(std::size_t length) {
-  return join({{AAA_MARSHAL_TLV}, little(length + 16, 4), little(type::kBinary, 8), little(length, 4), Bytes(length)});
+  return tlv_of(join({little(type::kBinary, 8), little(length, 4), Bytes(length)}));
 }
 
 // A list of one record, in a block of either layout; as the first block, or after an empty one.
@@ -112,9 +109,9 @@ inline Bytes binary(std::size_t length) { return record(type::kBinary, std::stri
 
 inline std::vector<Case> block_cases() {
   return {
-      flat_case("the header is cut short", head_of(hex(golden::kNested), 12), "DVT", {AAA_ATTR_RULE_BLOCK_HEADER, 1},
-                "11 bytes do not reach the block's length"),
-      flat_case("the header of the foreign layout is cut short", patched(head_of(hex(golden::kForeign), 15), "11=0e"),
+      flat_case("the header is cut short", head_of(golden_buffer(golden::kNested), 12), "DVT",
+                {AAA_ATTR_RULE_BLOCK_HEADER, 1}, "11 bytes do not reach the block's length"),
+      flat_case("the header of the foreign layout is cut short", head_of(golden_buffer(golden::kForeign, "11=0e"), 15),
                 "DVT", {AAA_ATTR_RULE_USED_MIN, 11}, "`next` and the records would be read past the end of the buffer",
                 {{'V', {AAA_ATTR_RULE_NATIVE_LAYOUT, 4}}}),
       nested("no magic, in a nested list", "73=00", "DVT", {AAA_ATTR_RULE_MAGIC, 73},
@@ -214,7 +211,7 @@ inline std::vector<Case> in_place_cases() {
              "a cursor would not go on where the decoder does"),
       nested("`next` of the last block is not 0", "132=01", "V", {AAA_ATTR_RULE_NEXT, 125},
              "a cursor would go on past the end of the buffer"),
-      flat_case("a block of the foreign layout", hex(golden::kForeign), "V", {AAA_ATTR_RULE_NATIVE_LAYOUT, 4},
+      flat_case("a block of the foreign layout", golden_buffer(golden::kForeign), "V", {AAA_ATTR_RULE_NATIVE_LAYOUT, 4},
                 "a cursor expects the records 8 bytes further on"),
       flat_case("a block of the foreign layout that begins with zeros", lone(kForeignHeader, record(0, "")), "VT",
                 {AAA_ATTR_RULE_NATIVE_LAYOUT, 4},
@@ -224,7 +221,7 @@ inline std::vector<Case> in_place_cases() {
                 "an empty list to the decoder, nothing to stand on for a cursor"),
       nested("free and reserved bytes", "9=ffff 13=ffffffff", "", kNoFault, "nobody reads them"),
       nested("a type above 622", "149=6f02", "", kNoFault, "a later version's attribute, shown as such"),
-      flat_case("bytes after the outer list", join({hex(golden::kNested), {0xEE}}), "", kNoFault, "ignored"),
+      flat_case("bytes after the outer list", join({golden_buffer(golden::kNested), {0xEE}}), "", kNoFault, "ignored"),
   };
 }
 
@@ -250,7 +247,7 @@ inline std::vector<Case> network_cases() {
 }
 
 inline std::vector<Case> tlv_cases() {
-  const Bytes whole = hex(golden::kTlvNested);
+  const Bytes whole = golden_buffer(golden::kTlvNested);
   return {
       tlv("a total that does not count itself", "1=03", AAA_ATTR_ERR_BAD_LENGTH, {AAA_ATTR_RULE_TLV_TOTAL_MIN, 1},
           "less than nothing would remain"),
@@ -284,7 +281,7 @@ inline std::vector<Case> tlv_cases() {
 
 inline std::vector<Case> marker_cases() {
   return {
-      other_case("marker 0", patched(hex(golden::kNested), "0=00"), 0, kNoFault, "flat, to the decoder only"),
+      other_case("marker 0", golden_buffer(golden::kNested, "0=00"), 0, kNoFault, "flat, to the decoder only"),
       other_case("marker 3", {3}, AAA_ATTR_ERR_BAD_ARG, {AAA_ATTR_RULE_MARKER, 0}, "no form that is known"),
   };
 }
