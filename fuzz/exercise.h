@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "support/byte_order.h"
+
 // Fails the run with the place: what a fuzzer looks for.
 #define REQUIRE(condition)                                                         \
   do {                                                                             \
@@ -19,6 +21,15 @@
   } while (false)
 
 namespace exercise {
+
+// The input after its marker. Corpus and mutator have the bytes of a little-endian host: here are those of this one.
+// What begins as network form does is left as it is.
+inline std::vector<std::uint8_t> received(std::uint8_t marker, const std::uint8_t *data, std::size_t size) {
+  std::vector<std::uint8_t> bytes{marker};
+  bytes.insert(bytes.end(), data, data + size);
+  const bool in_network_form = marker == AAA_MARSHAL_BUFFER && size >= 2 && data[0] == 0xAB && data[1] == 0xCD;
+  return in_network_form ? bytes : host_form(bytes);
+}
 
 // An exact-size copy on the heap: one byte too far is seen.
 class Copy {

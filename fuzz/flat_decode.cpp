@@ -5,8 +5,7 @@
 #include "support/flat_rules.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
-  std::vector<std::uint8_t> bytes{AAA_MARSHAL_BUFFER};
-  bytes.insert(bytes.end(), data, data + size);
+  const std::vector<std::uint8_t> bytes = exercise::received(AAA_MARSHAL_BUFFER, data, size);
   exercise::Copy buffer(bytes.data(), bytes.size());
   aaa_attr_list_handle list = 1;
   const auto length = static_cast<std::uint32_t>(bytes.size());

@@ -191,8 +191,7 @@ void refuse_other_markers(std::uint8_t *bytes, std::uint32_t length) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
-  std::vector<std::uint8_t> bytes{AAA_MARSHAL_BUFFER};
-  bytes.insert(bytes.end(), data, data + size);
+  const std::vector<std::uint8_t> bytes = exercise::received(AAA_MARSHAL_BUFFER, data, size);
   const auto length = static_cast<std::uint32_t>(bytes.size());
   Copy copy(bytes.data(), bytes.size());
   const Buffer buffer = {copy.data(), Reading(bytes.data(), bytes.size(), AAA_ATTR_READER_LIST)};
