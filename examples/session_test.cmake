@@ -3,7 +3,7 @@ set(ENV{TZ} UTC)
 
 # Runs exchange, which must succeed, and leaves what it printed in `output`.
 function(exchange file)
-  execute_process(COMMAND ${EXCHANGE} ${file} RESULT_VARIABLE status OUTPUT_VARIABLE printed ERROR_VARIABLE error)
+  execute_process(COMMAND ${EMULATOR} ${EXCHANGE} ${file} RESULT_VARIABLE status OUTPUT_VARIABLE printed ERROR_VARIABLE error)
   if(NOT status EQUAL 0 OR NOT error STREQUAL "")
     message(FATAL_ERROR "${file}: status ${status}\n${error}\n${printed}")
   endif()

@@ -1,5 +1,5 @@
 # Runs PROGRAM, which must end well and print what the file EXPECTED holds; addresses in it are those of another run.
-execute_process(COMMAND ${PROGRAM} OUTPUT_VARIABLE printed RESULT_VARIABLE status)
+execute_process(COMMAND ${EMULATOR} ${PROGRAM} OUTPUT_VARIABLE printed RESULT_VARIABLE status)
 file(READ ${EXPECTED} expected)
 foreach(text printed expected)
   string(REGEX REPLACE "(Attribute [Ll]ist: )[0-9a-fx]+" "\\1..." ${text} "${${text}}")

@@ -79,11 +79,11 @@ int main(int argc, char **argv) {
   if (argc != 2) return 2;
   const std::filesystem::path directory = argv[1];
   std::filesystem::remove_all(directory);
-  const Bytes nested = patched(hex(golden::kNested), "17=0100000000000000");
+  const Bytes nested = golden_buffer(golden::kNested, "17=0100000000000000");
   save(directory / "good" / "nested", nested);
   save(directory / "good" / "network", in_network_form(nested));
-  save(directory / "good" / "foreign", hex(golden::kForeign));
-  save(directory / "good" / "tlv", hex(golden::kTlvNested));
+  save(directory / "good" / "foreign", golden_buffer(golden::kForeign));
+  save(directory / "good" / "tlv", golden_buffer(golden::kTlvNested));
   save(directory / "good" / "trailing", join({nested, hex("de ad")}));
   save(directory / "bad" / "no-nul", patched(nested, "44=21"));
   save(directory / "bad" / "used", patched(nested, "171=1900"));
