@@ -16,6 +16,12 @@ class Failure : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+// An answer of no that needs a sentence: a file that is refused, a name that is not known. what() as above.
+class Refusal : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
 // Of the program, whatever the verb.
 struct Options {
   std::string colour = "auto";
@@ -24,6 +30,11 @@ struct Options {
   bool colours() const;
 };
 
+void add_decode(CLI::App &program, const Options &options, int *status);
+void add_dict(CLI::App &program, const Options &options, int *status);
+void add_diff(CLI::App &program, const Options &options, int *status);
+void add_encode(CLI::App &program, const Options &options, int *status);
+void add_err(CLI::App &program, const Options &options, int *status);
 void add_explain(CLI::App &program, const Options &options, int *status);
 void add_check(CLI::App &program, const Options &options, int *status);
 

@@ -1,0 +1,52 @@
+// What a verb reads: a file, the standard input, or the bytes that a text shows in hexadecimal.
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <string>
+#include <utility>
+
+#include "capture.h"
+
+namespace attrtool {
+
+// How a file is to be read.
+struct Reading {
+  bool hex = false;
+  std::uint64_t skipped = 0;  // bytes before the buffer, such as the headers of a packet
+};
+
+// Adds --hex and --skip.
+void add_reading(CLI::App *verb, Reading *reading);
+
+// The bytes of a file. A large file is mapped: the memory of the process does not grow with it.
+class Input {
+ public:
+  explicit Input(std::vector<std::uint8_t> bytes) : owned_(std::move(bytes)), bytes_(owned_) {}
+  Input(const void *mapped, std::size_t size)
+      : mapped_(mapped), bytes_(static_cast<const std::uint8_t *>(mapped), size) {}
+  Input(Input &&other) noexcept
+      : owned_(std::move(other.owned_)),
+        mapped_(std::exchange(other.mapped_, nullptr)),
+        bytes_(other.bytes_),
+        skipped_(other.skipped_) {}
+  Input &operator=(Input &&) = delete;
+  ~Input();
+
+  ByteSpan bytes() const { return bytes_.subspan(skipped_); }
+  std::size_t skipped() const { return skipped_; }
+  void skip(std::size_t bytes) { skipped_ = bytes; }
+
+ private:
+  std::vector<std::uint8_t> owned_;
+  const void *mapped_ = nullptr;
+  ByteSpan bytes_;
+  std::size_t skipped_ = 0;
+};
+
+// "-" is the standard input. Throws Failure for a file that cannot be read, Refusal for a text without hexadecimal.
+Input read_input(const std::string &path, const Reading &reading);
+
+// The file as messages name it.
+std::string shown_name(const std::string &path);
+
+}  // namespace attrtool
