@@ -333,6 +333,26 @@ class Program(unittest.TestCase):
                 self.assertIn(expected, out.decode(), verb)
             self.assertLessEqual(max(map(len, out.decode().splitlines())), 80, verb)
 
+    def test_manual(self):
+        """The manual page has every verb, and every option that --help has."""
+        page = (SOURCE / "tools/attrtool/attrtool.1").read_text()
+        verbs = re.findall(r"^  ([a-z]+) ", call("--help")[1].decode().split("Subcommands:")[1], re.M)
+        self.assertEqual(sorted(re.findall(r"^\.It Cm ([a-z]+)", page, re.M)), sorted(verbs))
+        for arguments in [[]] + [[verb] for verb in verbs]:
+            for option in re.findall(r"--([a-z-]+)", call(*arguments, "--help")[1].decode().split("Examples:")[0]):
+                self.assertIn(f"Fl -{option}", page, arguments)
+
+    def test_completion(self):
+        script = SOURCE / "tools/attrtool/attrtool.bash"
+        for words, expected in [("de", "decode"), ("decode --show", "--show-secrets"), ("encode --to net", "network"),
+                                ("err AAA_ATTR_ERR_BAD_B", "AAA_ATTR_ERR_BAD_BUFFER"), ("dict ser", "service="),
+                                ("--co", "--color"), ("--color al", "always")]:
+            line = ["attrtool", *words.split()]
+            commands = '. "$1"; shift; COMP_WORDS=("$@"); COMP_CWORD=$(($# - 1)); _attrtool; echo "${COMPREPLY[*]}"'
+            done = subprocess.run(["bash", "-c", commands, "bash", script, *line], capture_output=True, timeout=60,
+                                  env={**os.environ, "PATH": f"{TOOL.parent}:{os.environ['PATH']}"})
+            self.assertEqual(done.stdout.decode().strip(), expected, (words, done.stderr))
+
     def test_usage(self):
         for arguments in ([], ["nonsense"], ["decode"], ["decode", "--nonsense", "x"], ["encode", "--to", "x", SESSION],
                           ["decode", "/nonexistent"], ["decode", "--json", "--display", "full", "-"]):

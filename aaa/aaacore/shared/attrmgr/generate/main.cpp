@@ -1,5 +1,5 @@
-// attrmgr_generate c|attributes|value_names|page|facts: writes one of the files that follow from the dictionary's tables.
-// scripts/dictionary puts them in their places; the build compares.
+// attrmgr_generate c|attributes|value_names|page|facts: writes one of the files that follow from the dictionary's
+// tables. scripts/dictionary puts them in their places, and the build compares; facts are for the build of attrtool.
 #include <cstdio>
 #include <cstring>
 
