@@ -9,6 +9,7 @@
 
 #include "attribute_draft.h"
 #include "json_writer.h"
+#include "meta_flags.h"
 #include "printable.h"
 #include "values.h"
 
@@ -123,7 +124,7 @@ void read_meta_member(const std::string &key, const Scalar &scalar, attrmgr::met
   } else if (key == "tag") {
     meta->tag = short_number();
   } else if (key == "flags") {
-    meta->flags |= short_number();
+    meta->flags |= flags_written(short_number());
   } else if (key == "client") {
     meta->client = short_number();
   } else if (scalar.kind != Scalar::kBoolean) {

@@ -2,6 +2,7 @@
 
 #include <ostream>
 
+#include "meta_flags.h"
 #include "printable.h"
 #include "values.h"
 
@@ -126,7 +127,7 @@ class AttributeWriter {
       append_member("mandatory", &text_);
       text_ += "true";
     }
-    append_count("flags", meta.flags & ~AAA_ATTR_META_MANDATORY);
+    append_count("flags", written_flags(meta.flags) & ~kWrittenMandatory);
     append_count("client", meta.client);
     text_ += '}';
   }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "attribute_draft.h"
+#include "meta_flags.h"
 #include "values.h"
 
 namespace attrtext {
@@ -37,7 +38,7 @@ void read_note_word(std::string_view word, attrmgr::meta *meta) {
   } else if (key == "tag=") {
     meta->tag = short_number(value);
   } else if (key == "flags=") {
-    meta->flags |= short_number(value);
+    meta->flags |= flags_written(short_number(value));
   } else if (key == "client=") {
     meta->client = short_number(value);
   } else {

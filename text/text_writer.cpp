@@ -2,6 +2,7 @@
 
 #include <ostream>
 
+#include "meta_flags.h"
 #include "values.h"
 
 namespace attrtext {
@@ -24,7 +25,7 @@ void append_meta(const attrmgr::meta &meta, std::string *to) {
   if (meta.protocol != 0) append_word("protocol=", name_of(value_protocol, meta.protocol), to);
   if (meta.tag != 0 || meta == kZeros) append_word("tag=", std::to_string(meta.tag), to);
   if ((meta.flags & AAA_ATTR_META_MANDATORY) != 0) append_word("mandatory", "", to);
-  if (const unsigned others = meta.flags & ~AAA_ATTR_META_MANDATORY; others != 0)
+  if (const unsigned others = written_flags(meta.flags) & ~kWrittenMandatory; others != 0)
     append_word("flags=", std::to_string(others), to);
   if (meta.client != 0) append_word("client=", std::to_string(meta.client), to);
 }
