@@ -144,7 +144,7 @@ TEST_F(Replaced, HandleCheckInItsOrder) {
   };
   List list;
   list.number(type::kUlong, 1);
-  auto *magic = static_cast<std::uint16_t *>(table.blocks.at(list));
+  auto *magic = static_cast<std::uint16_t *>(table.blocks.at(static_cast<std::size_t>(aaa_attr_list_handle{list})));
   for (const auto &[name, operation] : kOperations) {
     SCOPED_TRACE(name);
     EXPECT_EQ(operation(0), name == "append from" ? AAA_ATTR_ERR_BAD_ARG : AAA_ATTR_ERR_BAD_LIST);

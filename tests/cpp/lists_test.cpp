@@ -25,7 +25,7 @@ static_assert(!std::ranges::view<list> && !std::ranges::borrowed_range<list>);
 static_assert(std::ranges::forward_range<flat_view> && std::ranges::forward_range<attrmgr::attributes>);
 static_assert(std::ranges::forward_range<decltype(list_view().all(attr::route))>);
 static_assert(!std::copyable<list> && std::movable<list> && std::is_nothrow_move_constructible_v<list>);
-static_assert(std::is_trivially_copyable_v<attribute> && sizeof(attribute) == 16);
+static_assert(std::is_trivially_copyable_v<attribute> && sizeof(attribute) == sizeof(void *) + 8);
 static_assert(sizeof(list) == sizeof(aaa_attr_list_handle));
 
 list sample() {

@@ -52,6 +52,21 @@ TEST(MallocPc, TheOwnerOutlivesWhateverIsWritten) {
 
 constexpr std::uint32_t kPerChunk = 8;
 
+// On a host with 32-bit addresses, a handle is not taken for the list whose address is its lower half.
+TEST(Frame, HandlesWiderThanAnAddressNameNothing) {
+  if (sizeof(void *) == sizeof(aaa_attr_list_handle)) GTEST_SKIP() << "there are none";
+  aaa_attr_list_handle list = 0;
+  ASSERT_EQ(aaa_attr_list_alloc(&list), 0u);
+  const aaa_attr_list_handle wider = list | std::uint64_t{1} << 32;
+  std::uint32_t number = 0;
+  EXPECT_EQ(aaa_attr_get_uint32_t(wider, 2, &number), AAA_ATTR_ERR_STALE_HANDLE);
+  aaa_attr_list_free(wider);
+  EXPECT_EQ(aaa_attr_list_attr_count(wider), 0u);
+  aaa_attr_cerrno code = 0;
+  EXPECT_EQ(is_aaa_attr_list_valid(list, &code), 1) << "freed by another handle";
+  aaa_attr_list_free(list);
+}
+
 // Three chunks of elements, each filled to its last byte; given back, they come again and nothing else does.
 TEST(Pool, ElementsAreDistinctAndComeAgain) {
   for (const std::uint32_t size : {1u, 17u, 40u, 1000u}) {
@@ -60,7 +75,8 @@ TEST(Pool, ElementsAreDistinctAndComeAgain) {
     std::uint8_t *elements[3 * kPerChunk], n = 0;
     for (auto *&element : elements) std::memset(element = static_cast<std::uint8_t *>(chunk_malloc(pool)), n++, size);
     n = 0;
-    for (auto *element : elements) EXPECT_TRUE(aligned(element) && std::count(element, element + size, n++) == size);
+    for (auto *element : elements)
+      EXPECT_TRUE(aligned(element) && static_cast<std::size_t>(std::count(element, element + size, n++)) == size);
     for (auto *element : elements) chunk_free(pool, element);
     std::set<void *> again;
     while (again.size() < std::size(elements)) ASSERT_TRUE(again.insert(chunk_malloc(pool)).second);

@@ -98,7 +98,7 @@ class Reading {
       if (first) first_header = header;
       if (translation_ && header != first_header) return broken(AAA_ATTR_RULE_ONE_LAYOUT, block + 3);
       if (in_place_ && header == 16) return broken(AAA_ATTR_RULE_NATIVE_LAYOUT, block + 3);
-      const std::size_t used = number(block + 10, 2);
+      const auto used = static_cast<std::size_t>(number(block + 10, 2));
       if (used < header) return broken(AAA_ATTR_RULE_USED_MIN, block + 10);
       if (used > size_ - block) return broken(AAA_ATTR_RULE_USED_MAX, block + 10);
       const bool last = i + 1 == blocks;

@@ -71,7 +71,9 @@ class pieces {
 
     iterator() = default;
     explicit iterator(const aaa_attr_array_entry *at) : at_(at) {}
-    value_type operator*() const { return {static_cast<const std::byte *>(at_->base), at_->length}; }
+    value_type operator*() const {
+      return {static_cast<const std::byte *>(at_->base), static_cast<std::size_t>(at_->length)};
+    }
     iterator &operator++() {
       ++at_;
       return *this;
