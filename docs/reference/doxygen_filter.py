@@ -183,7 +183,7 @@ def page(path):
     text = re.sub(r"^(##+) (?!<)(.*)$", heading, text, flags=re.M)
     text = re.sub(r"^# (.*)$", rf"# \1 {{#{path.stem}}}", text, count=1, flags=re.M)
     text = re.sub(r"\]\(#([\w-]+)\)", lambda m: f"](#{path.stem}-{m[1]})" if m[1] in anchors else m[0], text)
-    text = re.sub(r"\[([^]]*)\]\((?:\.\./aaa/[^)]*|\.\./examples/[^)]*|index\.md[^)]*)\)", r"\1", text)
+    text = re.sub(r"\[([^]]*)\]\((?:\.\./aaa/[^)]*|\.\./examples/[^)]*|(?:index|text-format)\.md[^)]*)\)", r"\1", text)
     # Doxygen would look for the file that is linked to by its path, which may have spaces in it.
     text = re.sub(r"\[([^]]*)\]\((?:\.\./)?(\w+)\.md(?:#([\w-]+))?\)",
                   lambda m: f'@ref {m[2]}{"-" + m[3] if m[3] else ""} "{m[1]}"', text)

@@ -43,7 +43,7 @@ inline constexpr std::size_t kForeignHeaderSize = 16;
 template <class T, unsigned... kWidths>
 struct FlagField {
   using Bits = T;
-  static constexpr unsigned kWidthOf[] = {kWidths...};
+  static constexpr unsigned kWidthOf[sizeof...(kWidths)] = {kWidths...};
   static_assert((kWidths + ...) == 8 * sizeof(T));
 
   static constexpr unsigned shift(std::size_t part) {
