@@ -30,7 +30,7 @@ constexpr std::size_t kAlignment = alignof(std::max_align_t);
 constexpr unsigned kShards = 8;
 constexpr std::size_t kCacheLine = 64;
 
-constexpr std::size_t round_up(std::size_t size) { return (size + kAlignment - 1) / kAlignment * kAlignment; }
+constexpr std::uint64_t round_up(std::uint64_t size) { return (size + kAlignment - 1) / kAlignment * kAlignment; }
 
 constexpr std::size_t kChunkHeader = round_up(sizeof(Chunk));
 
@@ -103,9 +103,11 @@ struct chunk_pool {
 
 ATTRMGR_REPLACEABLE chunk_pool *chunk_create(const char *, std::uint32_t element_size, std::uint32_t elements_per_chunk,
                                              std::uint32_t, std::uint32_t, std::uint32_t) {
-  if (element_size == 0 || elements_per_chunk == 0 || element_size > SIZE_MAX - kAlignment) return nullptr;
-  const std::size_t size = round_up(element_size);
-  if (size > (SIZE_MAX - kChunkHeader) / elements_per_chunk) return nullptr;
+  if (element_size == 0 || elements_per_chunk == 0) return nullptr;
+  // In 64 bits: rounded up, a size may be above what a host with 32-bit addresses can hold.
+  const std::uint64_t rounded = round_up(element_size);
+  if (rounded > (SIZE_MAX - kChunkHeader) / elements_per_chunk) return nullptr;
+  const auto size = static_cast<std::size_t>(rounded);
   void *memory = std::aligned_alloc(alignof(chunk_pool), sizeof(chunk_pool));
   if (memory == nullptr) return nullptr;
   return new (memory) chunk_pool{size, elements_per_chunk, {}};
