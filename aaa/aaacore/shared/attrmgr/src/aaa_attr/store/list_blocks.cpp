@@ -69,7 +69,7 @@ BlockView aaa_attr_list_add_block(BlockView head, BlockView last, std::size_t si
 
 void set_tail(BlockView head, BlockView last) {
   const BlockView second = head.next();
-  const auto distance = static_cast<std::intptr_t>(second ? address_of(last) - address_of(second) : 0);
+  const std::int64_t distance = second ? address_of(last) - address_of(second) : 0;
   const auto hint = static_cast<std::int32_t>(distance);
   const bool fits = hint == distance && (static_cast<std::uint32_t>(hint) & ~kTailHint) == 0;
   head.set_own_word((head.own_word() & ~kTailHint) | (fits ? static_cast<std::uint32_t>(hint) : 0));

@@ -45,14 +45,17 @@ inline void remove_record(BlockView head, RecordView record) {
 // so far away: one thread makes a list, another one fills it. Everything that changes a chain sets the hint.
 void set_tail(BlockView head, BlockView last);
 
-// The blocks are separate allocations: distances between them are those of addresses, not of pointers.
-inline std::uintptr_t address_of(BlockView block) { return reinterpret_cast<std::uintptr_t>(block.bytes()); }
+// The blocks are separate allocations: distances between them are those of addresses, not of pointers. Signed, since
+// the last block may well lie below the second; 64 bits, so that no distance of a 32-bit host is too large.
+inline std::int64_t address_of(BlockView block) {
+  return static_cast<std::int64_t>(reinterpret_cast<std::uintptr_t>(block.bytes()));
+}
 
 inline BlockView last_block(BlockView head) {
   const BlockView second = head.next();
   if (!second) return head;
   const auto distance = static_cast<std::int32_t>(head.own_word() & kTailHint);
-  BlockView last(reinterpret_cast<std::byte *>(address_of(second) + static_cast<std::uintptr_t>(distance)));
+  BlockView last(reinterpret_cast<std::byte *>(static_cast<std::uintptr_t>(address_of(second) + distance)));
   while (const BlockView next = last.next()) last = next;
   return last;
 }
