@@ -39,7 +39,8 @@ bool FlatReader<Form, kRules, Fault>::begins_here() {
     return refuse(depth_ == 0 ? AAA_ATTR_RULE_FIRST_BLOCK : AAA_ATTR_RULE_OWNED_LIST, at_);
   }
   block_ = Block(at_);
-  if (asks(FlatRules::kWhole) && block_.magic() != kBlockMagic) return refuse_field(AAA_ATTR_RULE_MAGIC, kBlockMagicAt);
+  if constexpr (asks(FlatRules::kWhole))
+    if (block_.magic() != kBlockMagic) return refuse_field(AAA_ATTR_RULE_MAGIC, kBlockMagicAt);
   return true;
 }
 
@@ -61,9 +62,10 @@ bool FlatReader<Form, kRules, Fault>::enters_list() {
 
 template <class Form, FlatRules kRules, class Fault>
 bool FlatReader<Form, kRules, Fault>::has_layout() {
-  if (kRules == FlatRules::kWhole && block_.foreign() != levels_[depth_].foreign)
-    return refuse_field(AAA_ATTR_RULE_ONE_LAYOUT, kBlockFlagsAt);
-  if (asks(FlatRules::kValid) && block_.foreign()) return refuse_field(AAA_ATTR_RULE_NATIVE_LAYOUT, kBlockFlagsAt);
+  if constexpr (kRules == FlatRules::kWhole)
+    if (block_.foreign() != levels_[depth_].foreign) return refuse_field(AAA_ATTR_RULE_ONE_LAYOUT, kBlockFlagsAt);
+  if constexpr (asks(FlatRules::kValid))
+    if (block_.foreign()) return refuse_field(AAA_ATTR_RULE_NATIVE_LAYOUT, kBlockFlagsAt);
   return true;
 }
 
@@ -78,18 +80,19 @@ bool FlatReader<Form, kRules, Fault>::has_extent() {
 // Its records would fit one of a list's blocks, and its flags say where in the list it is.
 template <class Form, FlatRules kRules, class Fault>
 bool FlatReader<Form, kRules, Fault>::agrees_with_list() {
-  if (!asks(FlatRules::kDecodable)) return true;
-  const std::size_t room = starts_list_ ? kBlockSize : kBlockSizeMax;
-  if (block_.used() - header_size() > room - kHeaderSize) return refuse_field(AAA_ATTR_RULE_BLOCK_ROOM, kUsedBytesAt);
-  if (!starts_list_ && block_.has(kBlockHead)) return refuse_field(AAA_ATTR_RULE_ONE_HEAD, kBlockFlagsAt);
-  if (is_last_of_list() && !block_.has(kBlockLast)) return refuse_field(AAA_ATTR_RULE_LAST_FLAG, kBlockFlagsAt);
+  if constexpr (asks(FlatRules::kDecodable)) {
+    const std::size_t room = starts_list_ ? kBlockSize : kBlockSizeMax;
+    if (block_.used() - header_size() > room - kHeaderSize) return refuse_field(AAA_ATTR_RULE_BLOCK_ROOM, kUsedBytesAt);
+    if (!starts_list_ && block_.has(kBlockHead)) return refuse_field(AAA_ATTR_RULE_ONE_HEAD, kBlockFlagsAt);
+    if (is_last_of_list() && !block_.has(kBlockLast)) return refuse_field(AAA_ATTR_RULE_LAST_FLAG, kBlockFlagsAt);
+  }
   return true;
 }
 
 template <class Form, FlatRules kRules, class Fault>
 bool FlatReader<Form, kRules, Fault>::goes_on_as_told() {
-  if (asks(FlatRules::kValid) && block_.has_next() == is_last_of_list())
-    return refuse_field(AAA_ATTR_RULE_NEXT, kNextAt);
+  if constexpr (asks(FlatRules::kValid))
+    if (block_.has_next() == is_last_of_list()) return refuse_field(AAA_ATTR_RULE_NEXT, kNextAt);
   return true;
 }
 
@@ -101,12 +104,12 @@ bool FlatReader<Form, kRules, Fault>::has_sound_records() {
     // be read, but nothing after it can be found.
     findings_ = holds_grouped ? look_over() : Findings{true, false, false, 0, 0};
     damaged_ = !findings_.sound;
-    return true;
+  } else {
+    findings_ = look_over();
+    if (!findings_.sound) return refuse_records();
+    if constexpr (asks(FlatRules::kDecodable))
+      if (findings_.live_grouped > 0 && !holds_grouped) return refuse_field(AAA_ATTR_RULE_GROUPED_FLAG, kBlockFlagsAt);
   }
-  findings_ = look_over();
-  if (!findings_.sound) return refuse_records();
-  if (asks(FlatRules::kDecodable) && findings_.live_grouped > 0 && !holds_grouped)
-    return refuse_field(AAA_ATTR_RULE_GROUPED_FLAG, kBlockFlagsAt);
   return true;
 }
 
@@ -162,17 +165,19 @@ typename FlatReader<Form, kRules, Fault>::Findings FlatReader<Form, kRules, Faul
 // Goes over the records once more, one by one, for the first that is not sound. Only for the call that names the fault.
 template <class Form, FlatRules kRules, class Fault>
 bool FlatReader<Form, kRules, Fault>::refuse_records() {
-  if constexpr (!Fault::kNames) return false;
-  Scan scan = records();
-  while (scan.next())
-    if (!holds_value(scan.record(), scan.after())) return false;
-  if (scan.overrun()) return refuse_cut_record(Record(scan.after()));
-  return refuse_field(AAA_ATTR_RULE_RECORD_COUNT, kRecordCountAt);
+  if constexpr (Fault::kNames) {
+    Scan scan = records();
+    while (scan.next())
+      if (!holds_value(scan.record(), scan.after())) return false;
+    if (scan.overrun()) return refuse_cut_record(Record(scan.after()));
+    return refuse_field(AAA_ATTR_RULE_RECORD_COUNT, kRecordCountAt);
+  }
+  return false;
 }
 
 // The record passes the used bytes: which of its fields is it?
 template <class Form, FlatRules kRules, class Fault>
-bool FlatReader<Form, kRules, Fault>::refuse_cut_record(Record record) {
+bool FlatReader<Form, kRules, Fault>::refuse_cut_record(Record record) requires Fault::kNames {
   const auto left = static_cast<std::size_t>(block_.end() - record.bytes());
   if (left < kRecordHeaderSize) return refuse(AAA_ATTR_RULE_RECORD_HEADER, record.bytes());
   if (left < record.value_at()) return refuse(AAA_ATTR_RULE_RECORD_META, record.bytes() + kRecordFlagsAt);
@@ -181,14 +186,17 @@ bool FlatReader<Form, kRules, Fault>::refuse_cut_record(Record record) {
 
 // What readers rely on in the value of a live record.
 template <class Form, FlatRules kRules, class Fault>
-bool FlatReader<Form, kRules, Fault>::holds_value(Record record, const std::byte *end) {
-  if (!asks(FlatRules::kDecodable) || record.deleted()) return true;
-  const std::uint8_t traits = traits_of(record.type());
-  if ((traits & kOwnsSubList) != 0 && record.length() != kHandleSize)
-    return refuse(AAA_ATTR_RULE_HANDLE_LENGTH, record.bytes() + kRecordLengthAt);
-  if ((traits & lacks_nul(record, end)) == 0) return true;
-  if (record.length() == 0) return refuse(AAA_ATTR_RULE_TEXT_LENGTH, record.bytes() + kRecordLengthAt);
-  return refuse(AAA_ATTR_RULE_TEXT_END, end - 1);
+bool FlatReader<Form, kRules, Fault>::holds_value(Record record, const std::byte *end) requires Fault::kNames {
+  if constexpr (asks(FlatRules::kDecodable)) {
+    const std::uint8_t traits = record.deleted() ? std::uint8_t{0} : traits_of(record.type());
+    if ((traits & kOwnsSubList) != 0 && record.length() != kHandleSize)
+      return refuse(AAA_ATTR_RULE_HANDLE_LENGTH, record.bytes() + kRecordLengthAt);
+    if ((traits & lacks_nul(record, end)) != 0) {
+      if (record.length() == 0) return refuse(AAA_ATTR_RULE_TEXT_LENGTH, record.bytes() + kRecordLengthAt);
+      return refuse(AAA_ATTR_RULE_TEXT_END, end - 1);
+    }
+  }
+  return true;
 }
 
 template <class Form, FlatRules kRules, class Fault>

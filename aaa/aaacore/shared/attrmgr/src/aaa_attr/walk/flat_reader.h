@@ -107,8 +107,8 @@ class FlatReader {
   bool refuse(aaa_attr_rule rule, const std::byte *at);
   bool refuse_field(aaa_attr_rule rule, std::size_t field) { return refuse(rule, block_.bytes() + field); }
   bool refuse_records();
-  bool refuse_cut_record(Record record);
-  bool holds_value(Record record, const std::byte *end);
+  bool refuse_cut_record(Record record) requires Fault::kNames;
+  bool holds_value(Record record, const std::byte *end) requires Fault::kNames;
   Findings look_over() const;
 
   const std::byte *at_;
