@@ -9,22 +9,32 @@
 
 namespace attrmgr {
 
-// Calls visit(block) for every block. Stops with the first error that visit gives, with the codes of the handles, or
-// with AAA_ATTR_ERR_BAD_FORMAT at a Grouped record whose value is not a handle.
+// Calls visit(block) for every block of the list that begins with the head. Stops with the first error that visit
+// gives, with the codes of the handles, or with AAA_ATTR_ERR_BAD_FORMAT at a Grouped record whose value is not a
+// handle.
 template <class Visit>
-Error for_each_flat_block(aaa_attr_list_handle list, Visit &visit) {
-  const auto [head, refused] = resolve(list);
-  if (refused) return refused;
+Error for_each_flat_block(BlockView head, Visit &visit) {
   for (const BlockView block : Blocks(head)) {
     if (const Error error = visit(block)) return error;
     if (!block.has(kBlockHoldsGrouped)) continue;
-    for (const RecordView record : BlockRecords(block)) {
-      if (!is_grouped(record)) continue;
+    for (RecordScan scan(block); scan.next();) {
+      const RecordView record = scan.record();
+      if (!is_grouped(record) || record.deleted()) continue;
       if (!holds_handle(record)) return AAA_ATTR_ERR_BAD_FORMAT;
-      if (const Error error = for_each_flat_block(owned_list(record), visit)) return error;
+      const auto [owned, refused] = resolve(owned_list(record));
+      if (refused) return refused;
+      // Most have one block that owns nothing: no call is needed.
+      const bool alone = !owned.next() && !owned.has(kBlockHoldsGrouped);
+      if (const Error error = alone ? visit(owned) : for_each_flat_block(owned, visit)) return error;
     }
   }
   return 0;
+}
+
+template <class Visit>
+Error for_each_flat_block(aaa_attr_list_handle list, Visit &visit) {
+  const auto [head, refused] = resolve(list);
+  return refused ? refused : for_each_flat_block(head, visit);
 }
 
 }  // namespace attrmgr
