@@ -184,6 +184,8 @@ void refuse_other_markers(std::uint8_t *bytes, std::uint32_t length) {
     REQUIRE(aaa_attr_get_from_buffer(bytes, 2, &format, &value, &size) == AAA_ATTR_ERR_BAD_ARG);
     for (const auto direction : {CDM_ENDIAN_TRAN_HTON, CDM_ENDIAN_TRAN_NTOH})
       REQUIRE(aaa_attrs_buffer_tran_v1(reinterpret_cast<char *>(bytes), length, direction) == AAA_ATTR_ERR_BAD_ARG);
+    exercise::fault_of(bytes, length, AAA_ATTR_READER_IN_PLACE, AAA_ATTR_ERR_BAD_ARG);
+    exercise::fault_of(bytes, length, AAA_ATTR_READER_LIST, marker == 0 ? 0 : AAA_ATTR_ERR_BAD_ARG);
   }
   bytes[0] = AAA_MARSHAL_BUFFER;
 }
