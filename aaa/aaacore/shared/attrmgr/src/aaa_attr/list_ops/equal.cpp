@@ -201,21 +201,23 @@ class SetComparison {
   RecordWindow window_;
 };
 
-// How many groups a list has; the blocks tell which need not be looked at.
-std::size_t count_groups(BlockView list) {
-  std::size_t groups = 0;
-  for (const BlockView block : Blocks(list))
-    if (block.has(kBlockHoldsGrouped)) groups += block.record_count();
-  if (groups == 0) return 0;
-  groups = 0;
-  for (const RecordView record : Attributes(list)) groups += is_grouped(record);
-  return groups;
-}
+struct GroupsOf {
+  std::size_t number = 0;
+  RecordView first;
+};
 
-RecordView first_group(BlockView list) {
-  for (const RecordView record : Attributes(list))
-    if (is_grouped(record)) return record;
-  return {};
+// The groups of a list; the blocks tell which need not be looked at.
+GroupsOf groups_of(BlockView list) {
+  GroupsOf groups;
+  bool any = false;
+  for (const BlockView block : Blocks(list)) any |= block.has(kBlockHoldsGrouped) && block.record_count() > 0;
+  if (!any) return groups;
+  for (const RecordView record : Attributes(list)) {
+    if (!is_grouped(record)) continue;
+    if (groups.number == 0) groups.first = record;
+    ++groups.number;
+  }
+  return groups;
 }
 
 // Of lists of which the first is short.
@@ -250,14 +252,14 @@ bool groups_equal(BlockView list1, std::size_t num_groups, BlockView list2, Wind
 }
 
 bool sets_equal(BlockView list1, BlockView list2, Windows &windows) {
-  const std::size_t groups1 = count_groups(list1);
-  const std::size_t groups2 = count_groups(list2);
-  if ((groups1 == 0) != (groups2 == 0)) return false;
-  if (!values_equal(list1, list2, groups1 != 0, windows)) return false;
-  if (groups1 == 0) return true;
+  const GroupsOf groups1 = groups_of(list1);
+  const GroupsOf groups2 = groups_of(list2);
+  if ((groups1.number == 0) != (groups2.number == 0)) return false;
+  if (!values_equal(list1, list2, groups1.number != 0, windows)) return false;
+  if (groups1.number == 0) return true;
   // With one group each there is nothing to choose, and hashing what they hold would be wasted.
-  if (groups1 == 1 && groups2 == 1) return Groups(windows).match(first_group(list1), first_group(list2));
-  return groups_equal(list1, groups1, list2, windows);
+  if (groups1.number == 1 && groups2.number == 1) return Groups(windows).match(groups1.first, groups2.first);
+  return groups_equal(list1, groups1.number, list2, windows);
 }
 
 bool nested_equal(aaa_attr_list_handle handle1, aaa_attr_list_handle handle2, Windows &windows) {
