@@ -162,7 +162,7 @@ void take_refused_tlv(Fields &fields, const Named &fault) {
 }
 
 void take_tlv(Fields &fields, std::uint64_t length) {
-  TlvReader<AsFarAsItGoes> reader(fields.at(), length);
+  TlvReader<Named, LongTotal::kCut> reader(fields.at(), length);
   take_number(fields, AAA_ATTR_FIELD_TOTAL);
   while (reader.next()) {
     take_tlv_head(fields, reader.depth());

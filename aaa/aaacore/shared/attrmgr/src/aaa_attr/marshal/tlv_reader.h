@@ -12,7 +12,10 @@
 
 namespace attrmgr {
 
-template <class Fault = Unnamed>
+// What becomes of a list whose total passes what contains it. Who shows what there is reads it up to there.
+enum class LongTotal { kRefused, kCut };
+
+template <class Fault = Unnamed, LongTotal kLongTotal = LongTotal::kRefused>
 class TlvReader {
  public:
   // Reads the body that begins at bytes and lies within length bytes.
@@ -66,7 +69,7 @@ class TlvReader {
   bool enter_body() {
     if (depth_ > AAA_ATTR_NESTING_MAX) return refuse(AAA_ATTR_RULE_NESTING, AAA_ATTR_ERR_BAD_LENGTH, at_);
     std::uint64_t total = load<std::uint32_t>(at_);
-    if (Fault::kCutsTotals && total > left()) total = left();
+    if (kLongTotal == LongTotal::kCut && total > left()) total = left();
     if (total < kTlvTotalSize) return refuse(AAA_ATTR_RULE_TLV_TOTAL_MIN, AAA_ATTR_ERR_BAD_LENGTH, at_);
     if (total > left()) return refuse(AAA_ATTR_RULE_TLV_TOTAL_MAX, AAA_ATTR_ERR_BAD_LENGTH, at_);
     ends_[++depth_] = at_ + total;

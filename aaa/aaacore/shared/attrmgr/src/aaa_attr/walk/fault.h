@@ -10,14 +10,12 @@ namespace attrmgr {
 
 struct Unnamed {
   static constexpr bool kNames = false;
-  static constexpr bool kCutsTotals = false;
   static void note(aaa_attr_rule, const std::byte *) {}
   static void note_list(const std::byte *, unsigned) {}
 };
 
 struct Named {
   static constexpr bool kNames = true;
-  static constexpr bool kCutsTotals = false;
   void note(aaa_attr_rule broken, const std::byte *where) {
     rule = broken;
     at = where;
@@ -33,11 +31,6 @@ struct Named {
   // Of the TLV list that the refused record is in: where it ends, and 1 for the outer one; 0 when its total is refused.
   const std::byte *list_end = nullptr;
   unsigned depth = 0;
-};
-
-// For who shows what there is: a TLV list whose total passes what contains it is read up to there.
-struct AsFarAsItGoes : Named {
-  static constexpr bool kCutsTotals = true;
 };
 
 }  // namespace attrmgr
