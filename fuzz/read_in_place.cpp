@@ -19,6 +19,11 @@ struct Buffer {
   Reading reading;
 };
 
+bool has_foreign_layout(unsigned flags) {
+  if (kBigEndianHost) flags = byte_order::moved_bits(flags, byte_order::kBlockFlagPlaces, true);
+  return (flags & 0x30) == 0x10;
+}
+
 // The cursor stands on this record.
 void see_record(const aaa_cursor *cursor, const Buffer &buffer, const Record &record) {
   const std::uint8_t *meta = reinterpret_cast<const std::uint8_t *>(aaa_cursor_get_meta(cursor));
@@ -205,7 +210,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
   REQUIRE(code == (in_place.accepted() ? 0 : AAA_ATTR_ERR_BAD_BUFFER));
   exercise::require_fault(buffer.bytes, length, AAA_ATTR_READER_IN_PLACE, code, in_place.fault());
   REQUIRE((aaa_attr_buffer_to_list(buffer.bytes, length, &list) == 0) == buffer.reading.accepted());
-  REQUIRE((aaa_attr_buffer_is_alien(buffer.bytes, length) == 1) == (size >= 24 && (data[3] & 0x30) == 0x10));
+  REQUIRE((aaa_attr_buffer_is_alien(buffer.bytes, length) == 1) == (size >= 24 && has_foreign_layout(bytes[4])));
   if (list != 0) see_list(list, buffer, 0);
   if (!in_place.accepted()) {
     aaa_attr_list_free(list);
