@@ -55,6 +55,7 @@ PAGES = [
          ("attrmgr_dictionary", "attrmgr_names")),
     Page("attrmgr_types", "result codes, handles, attribute meta", "aaa_attr_types.h", (),
          ("attrmgr_client", "attrmgr_add"), "errors.c:codes"),
+    Page("attrmgr_version", "the version of headers and library", "aaa_attr_version.h", (), ("attrmgr_client",)),
     Page("attrmgr_platform", "handle table, pools, memory: what a process may replace", "aaa_platform.h", (),
          ("attrmgr_checked",)),
     Page("attrmgr_checked", "find lists that leak and handles that name none", "checked.h", (), ("attrmgr_platform",),

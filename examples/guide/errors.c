@@ -12,7 +12,7 @@ static aaa_attr_list_handle new_record(const char *name, uint32_t length, uint32
   if (code == 0) code = aaa_attr_add(record, AAA_ATTR_TYPE_USERNAME, name, length, NULL);
   if (code == 0) code = aaa_attr_add(record, AAA_ATTR_TYPE_SESSION_TIMEOUT, &seconds, sizeof seconds, NULL);
   if (code == 0) return record;
-  fprintf(stdout, "no record: %s\n", aaa_attr_cerrno_name(code));
+  fprintf(stdout, "no record: %s\n", aaa_attr_cerrno_text(code));
   aaa_attr_list_free(record);  // 0, where there is none, is no mistake
   return 0;
 }
@@ -31,7 +31,7 @@ int main(void) {
   uint32_t value;
   uint64_t wide;
   tell("a number of two bytes", aaa_attr_add(record, AAA_ATTR_TYPE_FRAMED_MTU, &two_bytes, sizeof two_bytes, NULL));
-  tell("a type that is none", aaa_attr_add(record, 623, "x", 1, NULL));
+  tell("a type that is none", aaa_attr_add(record, AAA_ATTR_TYPE_COUNT, "x", 1, NULL));
   tell("an attribute that is not there", aaa_attr_get_uint32_t(record, AAA_ATTR_TYPE_FRAMED_MTU, &value));
   tell("4 bytes read as 8", aaa_attr_get_uint64_t(record, AAA_ATTR_TYPE_SESSION_TIMEOUT, &wide));
   tell("no list", aaa_attr_get_uint32_t(0, AAA_ATTR_TYPE_SESSION_TIMEOUT, &value));

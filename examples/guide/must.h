@@ -9,7 +9,7 @@
 // Ends the program when a call has failed.
 static inline void must(aaa_attr_cerrno code) {
   if (code == 0) return;
-  fprintf(stderr, "%s\n", aaa_attr_cerrno_name(code));
+  fprintf(stderr, "%s\n", aaa_attr_cerrno_text(code));
   exit(1);
 }
 // [must]

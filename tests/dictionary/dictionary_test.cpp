@@ -90,7 +90,7 @@ TEST(Dictionary, Types) {
   EXPECT_EQ(hash_of(lines), 0xe46dad47388b1bdcu);
 }
 
-// Number and class bits of types 1 to 622; and the types whose values are not shown.
+// Number and class bits of all types; and the types whose values are not shown.
 TEST(Dictionary, ClassBitsAndSecrets) {
   std::string lines;
   Counts per_bit;

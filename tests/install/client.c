@@ -1,4 +1,6 @@
-/* A list through a buffer and back, in C11. Exit status 0 when what arrives is what was sent. */
+/* A list through a buffer and back, in C11, and the version of the library on standard output. Exit status 0 when what
+   arrives is what was sent, and headers and library are of one version. */
+#include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
 
@@ -8,6 +10,9 @@ int main(void) {
   const uint16_t ids[2] = {1, 2};
   aaa_attr_list_handle sent, received;
   uint32_t size = 0;
+  uint32_t version = 0;
+  puts(aaa_attr_version(&version));
+  if (version != AAA_ATTR_VERSION || version < AAA_ATTR_VERSION_NUMBER(1, 0, 0)) return 1;
   if (aaa_attr_client_register("client", ids) != 0 || aaa_attr_list_alloc(&sent) != 0) return 1;
   if (aaa_attr_add(sent, aaa_attr_get_type_from_name("username"), "bob", 3, NULL) != 0) return 1;
   if (aaa_attr_list_to_buffer_v1(sent, NULL, &size) != AAA_ATTR_ERR_BAD_FORMAT) return 1;

@@ -10,7 +10,8 @@
 
 namespace {
 
-constexpr std::uint32_t kTypes[] = {type::kUlong, type::kIpv4, type::kBinary, type::kString, 128, 256, 300, 307, 622};
+constexpr std::uint32_t kTypes[] = {type::kUlong, type::kIpv4, type::kBinary, type::kString,          128,
+                                    256,          300,         307,           AAA_ATTR_TYPE_COUNT - 1};
 
 class Random {
  public:

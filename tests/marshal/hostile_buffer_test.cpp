@@ -60,7 +60,7 @@ aaa_attr_cerrno translate(const Bytes &buffer, cdm_endian_tran_type direction = 
 std::string copied(aaa_cursor *cursor) {
   List copies;
   while (aaa_cursor_get_next(cursor) != 0) {
-    if (!aaa_cursor_grouped(cursor)) (void)aaa_cursor_list_add_attr(copies, cursor);  // not one above 622
+    if (!aaa_cursor_grouped(cursor)) (void)aaa_cursor_list_add_attr(copies, cursor);  // not an unknown one
   }
   aaa_cursor_free(cursor);
   return outline(copies);

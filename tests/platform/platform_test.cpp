@@ -150,6 +150,8 @@ TEST(Frame, ResultCodesHaveTheirConstantsNames) {
             "0 <unknown> AAA_ATTR_ERR_BAD_BUFFER AAA_ATTR_ERR_NO_MEMORY AAA_ATTR_ERR_BAD_ARG <unknown> "
             "AAA_ATTR_ERR_BAD_LIST AAA_ATTR_ERR_STALE_HANDLE AAA_ATTR_ERR_NOT_FOUND "
             "AAA_ATTR_ERR_BAD_FORMAT AAA_ATTR_ERR_BAD_LENGTH ");
+  EXPECT_STREQ(aaa_attr_cerrno_text(0), "no error");
+  EXPECT_STREQ(aaa_attr_cerrno_text(1), "unknown result code");
 }
 
 }  // namespace

@@ -26,7 +26,7 @@ constexpr char kExamples[] = R"(Examples:
 
 Exit status: 0 known, 1 no result code, 2 usage.)";
 
-// What a code comes from, and what to do about it. The sentence of its meaning is that of the C++ interface.
+// What a code comes from, and what to do about it. The sentence of its meaning is the library's.
 struct Code {
   aaa_attr_cerrno code;
   std::vector<const char *> causes, todo;
@@ -67,7 +67,7 @@ const std::vector<Code> &codes() {
        {"run with the checked handle table, libattrmgr_checked, which tells who freed it: docs/debugging.md"}},
       {AAA_ATTR_ERR_NOT_FOUND,
        {"the list holds no attribute of the type, or fewer than were asked for",
-        "the type is above 622, or a TLV record has type 0",
+        "the dictionary has no such type, or a TLV record has type 0",
         "no value of the type has the name, which is compared byte for byte"},
        {"where an attribute may be missing this is an answer, not a fault",
         "attrtool decode FILE shows what a buffer holds, attrtool dict WORDS what types there are"}},
@@ -91,8 +91,6 @@ std::string short_name(aaa_attr_cerrno code) {
   const std::string_view name = aaa_attr_cerrno_name(code);
   return std::string(name.substr(name.starts_with(kPrefix) ? kPrefix.size() : 0));
 }
-
-const char *meaning_of(aaa_attr_cerrno code) { return attrmgr::detail::sentence(static_cast<attrmgr::errc>(code)); }
 
 std::string in_capitals(std::string text) {
   for (char &c : text) c = c == '-' || c == ' ' ? '_' : static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
@@ -152,7 +150,7 @@ void write_items(const char *title, const std::vector<const char *> &items) {
 void write_full(const Code &row, bool colours) {
   std::cout << painted(colours, Tone::kTitle, aaa_attr_cerrno_name(row.code)) << '\n'
             << "  " << in_hexadecimal(row.code) << ", unsigned " << row.code << ", signed " << signed_text(row.code)
-            << "\n  " << wrapped(meaning_of(row.code), 2, 2) << '\n';
+            << "\n  " << wrapped(aaa_attr_cerrno_text(row.code), 2, 2) << '\n';
   write_items("Causes:", row.causes);
   write_items("What to do:", row.todo);
 }
@@ -162,7 +160,7 @@ void write_table(bool colours) {
   std::cout << painted(colours, Tone::kFaint, padded("code", kName) + padded("hexadecimal", kHex) + "signed") << '\n';
   for (const Code &row : codes())
     std::cout << padded(aaa_attr_cerrno_name(row.code), kName) << padded(in_hexadecimal(row.code), kHex)
-              << signed_text(row.code) << "\n    " << wrapped(meaning_of(row.code), 4, 4) << '\n';
+              << signed_text(row.code) << "\n    " << wrapped(aaa_attr_cerrno_text(row.code), 4, 4) << '\n';
 }
 
 nlohmann::ordered_json code_json(const Code &row) {
@@ -170,7 +168,7 @@ nlohmann::ordered_json code_json(const Code &row) {
           {"hexadecimal", in_hexadecimal(row.code)},
           {"unsigned", row.code},
           {"signed", static_cast<std::int32_t>(row.code)},
-          {"meaning", meaning_of(row.code)},
+          {"meaning", aaa_attr_cerrno_text(row.code)},
           {"causes", row.causes},
           {"todo", row.todo}};
 }

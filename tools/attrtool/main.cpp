@@ -28,7 +28,7 @@ int run(int argc, char **argv) {
   program.add_option("--color", options.colour, "When to use colours: auto, always or never")
       ->type_name("WHEN")
       ->check(CLI::IsMember({"auto", "always", "never"}).description(""));
-  program.set_version_flag("--version", ATTRTOOL_VERSION, "Print the version");
+  program.set_version_flag("--version", std::string("attrtool ") + aaa_attr_version(nullptr), "Print the version");
   program.footer(
       "Exit status: 0 yes, 1 no or refused, 2 usage or a file that cannot be read.\n"
       "attrtool VERB --help shows examples.");

@@ -44,6 +44,12 @@ AAA_API aaa_attr_cerrno aaa_attr_client_register(const char *name, const uint16_
    Owner: the library; constant text. */
 AAA_API const char *aaa_attr_cerrno_name(aaa_attr_cerrno code) AAA_NOEXCEPT;
 
+/* Returns what a code means, for a message: "there is no such attribute, type or value name". "no error" for 0, "unknown
+   result code" for any other number. The texts may change.
+   code: what a call returned.
+   Owner: the library; constant text. */
+AAA_API const char *aaa_attr_cerrno_text(aaa_attr_cerrno code) AAA_NOEXCEPT;
+
 /* ---- Lists ---- */
 
 /* Makes an empty list.
@@ -98,7 +104,7 @@ AAA_API void aaa_attr_discrim_init(uint8_t *discriminator) AAA_NOEXCEPT;
    Arguments are checked in the order of the codes. The list is unchanged on every failure of adding. When a Grouped
    attribute has been added, the record owns the sub-list; whether the handle names a list is not looked at.
 
-   AAA_ATTR_ERR_NOT_FOUND: type above 622 (add_or_replace: also value null).
+   AAA_ATTR_ERR_NOT_FOUND: the dictionary has no such type (add_or_replace: also value null).
    AAA_ATTR_ERR_BAD_ARG: value null or length 0 (add_or_replace: the length only after the list).
    Codes of the handle.
    AAA_ATTR_ERR_BAD_ARG: length unsuitable, or too long for a block of 65,535 bytes; the value is the list itself.
@@ -233,8 +239,8 @@ AAA_API aaa_attr_cerrno aaa_attr_list_remove_common_attrs(aaa_attr_list_handle l
    Attributes of the source are added to the destination in the source's order, with their meta; a Grouped attribute
    with a copy of its sub-list. The source is not changed, except by aaa_attr_list_merge_list and
    aaa_attr_list_replace_and_add_v1. It must not be a sub-list of the destination, which could free it under way.
-   What was added before a failure stays. A list decoded from a flat buffer may hold what adding refuses, a type above
-   622 for one: the call ends there.
+   What was added before a failure stays. A list decoded from a flat buffer may hold what adding refuses, a type
+   that the dictionary does not have for one: the call ends there.
 
    destination  the list that receives attributes
    source       the list whose attributes are added

@@ -12,7 +12,7 @@
 
 AAA_BEGIN_DECLS
 
-#define AAA_ATTR_TYPE_COUNT 623 /* types are 0 to 622; 0 stands for no attribute */
+#define AAA_ATTR_TYPE_COUNT 623 /* types are below; 0 stands for no attribute */
 
 /* Value formats: how the value of a type is stored and how long it is. */
 #define AAA_ATTR_FMT_INVALID 0            /* of a number that is no type */

@@ -72,7 +72,7 @@ AAA_MUST_CHECK aaa_attr_cerrno aaa_attr_list_tlv_to_buffer(aaa_attr_list_handle 
    AAA_ATTR_ERR_NO_MEMORY: an allocation failed (*list as it was when it was the first).
    AAA_ATTR_ERR_BAD_BUFFER: a flat buffer is cut short or does not hold together; lists nest deeper than
    AAA_ATTR_NESTING_MAX. AAA_ATTR_ERR_BAD_LENGTH: the same for a TLV buffer.
-   AAA_ATTR_ERR_NOT_FOUND: a TLV record of type 0 or above 622.
+   AAA_ATTR_ERR_NOT_FOUND: a TLV record of type 0, or of one that the dictionary does not have.
    Codes of adding, for TLV records. */
 AAA_MUST_CHECK aaa_attr_cerrno aaa_attr_buffer_to_list(const void *buffer, uint32_t length,
                                                        aaa_attr_list_handle *list) AAA_NOEXCEPT;

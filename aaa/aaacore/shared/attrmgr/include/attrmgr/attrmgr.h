@@ -18,6 +18,7 @@
 #include <attrmgr/aaa_attr_names.h>   /* constants for all types and values */
 #include <attrmgr/aaa_attr_types.h>   /* result codes, handles, attribute meta */
 #include <attrmgr/aaa_attr_values.h>  /* value names and authorization bitmaps */
+#include <attrmgr/aaa_attr_version.h> /* of headers and library */
 #include <attrmgr/aaa_cursor.h>       /* walking lists and buffers */
 #include <attrmgr/aaa_platform.h>     /* handle table, pools: what a process may replace */
 

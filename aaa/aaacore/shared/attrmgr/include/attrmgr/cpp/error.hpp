@@ -32,27 +32,7 @@ enum class errc : int {
 
 namespace detail {
 
-inline const char *sentence(errc code) noexcept {
-  switch (code) {
-    case errc::bad_buffer:
-      return "the buffer is cut short or does not hold together";
-    case errc::no_memory:
-      return "memory is exhausted, or the list has no room for more blocks";
-    case errc::bad_arg:
-      return "a value is missing, out of range, of the wrong length or not what its text claims";
-    case errc::bad_list:
-      return "there is no such list: the handle is 0, as after a move, or what it names is not a list";
-    case errc::stale_handle:
-      return "the list is gone: it was freed, spliced into another or filtered";
-    case errc::not_found:
-      return "there is no such attribute, type or value name";
-    case errc::bad_format:
-      return "the stored value is not of the length or the format asked for, or a buffer is too small";
-    case errc::bad_length:
-      return "the lengths of the TLV buffer do not add up";
-  }
-  return "unknown result code";
-}
+inline const char *sentence(errc code) noexcept { return aaa_attr_cerrno_text(static_cast<aaa_attr_cerrno>(code)); }
 
 // Visible whatever the client hides, so that the libraries of a process share one category.
 class AAA_API category_of_codes final : public std::error_category {
