@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Holds a built shared library against symbols.txt (what it exports, no more and no less), replaceable.txt (which of that
-# it calls through dynamic symbols) and imports.txt (what it may ask for), and sees that it needs the C library and
-# nothing else.
+# it calls through dynamic symbols) and imports.txt (what it may ask for), and sees that a test calls each function and
+# that it needs the C library and nothing else.
 set -eu
 export LC_ALL=C
 library=$1
@@ -37,6 +37,9 @@ complain "exported, but not in symbols.txt" < <(comm -23 <(echo "$exported") <(n
 complain "in symbols.txt, but not exported" < <(comm -13 <(echo "$exported") <(names symbols.txt))
 complain "called through its dynamic symbol, but not in replaceable.txt" < <(comm -23 <(echo "$replaceable") <(names replaceable.txt))
 complain "in replaceable.txt, but not called through its dynamic symbol" < <(comm -13 <(echo "$replaceable") <(names replaceable.txt))
+complain "exported, but no test calls it" < <(echo "$functions" | while read -r function; do
+  grep -rqw --include='*.c' --include='*.cpp' "$function" "$here/.." || echo "$function"
+done)
 complain "imported, but not allowed by imports.txt" < <(comm -23 <(echo "$imported") <(names imports.txt))
 complain "needs a library beside the C library" < <(grep -vx 'libc\.so\.6' <<<"$needed")
 exit $failed

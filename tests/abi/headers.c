@@ -26,7 +26,8 @@ _Static_assert(AAA_ATTR_FMT_STRING_ATTR == 10 && AAA_ATTR_FMT_OPAQUE == 13 && AA
                    AAA_ATTR_FMT_IPX_NETWORK == 15 && AAA_ATTR_FMT_DIAMETER_IDENTITY == 20 &&
                    AAA_ATTR_FMT_IP_FILTER_RULE == 21 && AAA_ATTR_FMT_QOS_FILTER_RULE == 22,
                "formats that no type has");
-_Static_assert(AAA_ATTR_TYPE_OPAQUE == 4 && AAA_ATTR_TYPE_NO_AUTHOR == 8 && AAA_ATTR_NESTING_MAX == 128, "flags");
+_Static_assert(AAA_ATTR_TYPE_OPAQUE == 4 && AAA_ATTR_TYPE_NO_AUTHOR == 8, "flags");
+_Static_assert(AAA_ATTR_NESTING_MAX == 128, "what peers may send; with it go the limits in docs/SECURITY.md");
 _Static_assert(AAA_ATTR_TYPE_USERNAME == 197 && AAA_ATTR_TYPE_CLASS == 173 && AAA_ATTR_TYPE_OR == 346 &&
                    AAA_ATTR_TYPE_SESSION_ID == 180 && AAA_ATTR_TYPE_SESSION_ID_STRING == 451 &&
                    AAA_ATTR_TYPE_INPUT_OCTETS == 453 && AAA_ATTR_TYPE_INPUT_OCTETS_2 == 455 &&

@@ -18,7 +18,7 @@ TEST(Lookup, TypesAndNames) {
   }
   for (const char *name : {"acct-status-type", "ACL", "", "Unknown AAA Attribute", static_cast<const char *>(nullptr)})
     EXPECT_EQ(aaa_attr_get_type_from_name(name), 0u) << (name ? name : "null");
-  for (const std::uint32_t type : {623u, 0x10003u, UINT32_MAX}) {
+  for (const std::uint32_t type : {std::uint32_t{AAA_ATTR_TYPE_COUNT}, 0x10003u, UINT32_MAX}) {
     EXPECT_STREQ(aaa_attr_get_name_from_type(type), "Unknown AAA Attribute") << type;
     EXPECT_EQ(aaa_attr_get_format_from_type(type), 0u) << type;
   }
@@ -36,7 +36,8 @@ TEST(Lookup, FormatNames) {
 }
 
 TEST(Lookup, Values) {
-  for (const auto &[type, value] : {std::pair(0u, 0u), {2, 0}, {96, 47}, {96, UINT32_MAX}, {623, 0}, {0x10003, 7}})
+  for (const auto &[type, value] :
+       {std::pair(0u, 0u), {2, 0}, {96, 47}, {96, UINT32_MAX}, {AAA_ATTR_TYPE_COUNT, 0}, {0x10003, 7}})
     EXPECT_EQ(aaa_attr_get_enum_name_from_type(type, value), nullptr) << type;
   // The interface look-up ends before its table does.
   for (std::uint32_t value = 0; value < value_interface_type.count + 2; ++value)

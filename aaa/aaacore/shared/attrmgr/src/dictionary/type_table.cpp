@@ -38,6 +38,15 @@ constexpr TypeRow make_row(std::uint32_t type, std::string_view name, std::uint3
   return {type, format, name, bitmap == kNoBitmap ? nullptr : &aaa_author_flags[bitmap], flags, class_mask, values};
 }
 
+#define ATTR(...) +1
+#define ENUM(...) +1
+static_assert(AAA_ATTR_TYPE_COUNT == 0
+#include "dictionary/attr_types.def"
+              ,
+              "aaa_attr_dict.h: AAA_ATTR_TYPE_COUNT is not the number of rows in attr_types.def");
+#undef ATTR
+#undef ENUM
+
 }  // namespace
 
 constexpr TypeRow kTypes[AAA_ATTR_TYPE_COUNT] = {
@@ -66,12 +75,13 @@ constexpr bool author_rows_agree() {
   return true;
 }
 
-static_assert(every_row_stands_at_its_number());
+static_assert(every_row_stands_at_its_number(), "attr_types.def: each row has a name, and stands at its number");
 #define KNOWN(constant, number, type_name) \
   static_assert(kTypes[(number)].name == (type_name), "known_types.def: not the name that attr_types.def has");
 #include "dictionary/known_types.def"
 #undef KNOWN
-static_assert(std::size(kAuthorRows) == AAA_AUTHOR_TYPES);
+static_assert(std::size(kAuthorRows) == AAA_AUTHOR_TYPES,
+              "aaa_attr_values.h: AAA_AUTHOR_TYPES is not the number of rows in author_bitmaps.def");
 static_assert(author_rows_agree(), "author_bitmaps.def: in type order, with the names of attr_types.def");
 
 constexpr std::array<std::uint8_t, AAA_ATTR_TYPE_COUNT> formats() {
