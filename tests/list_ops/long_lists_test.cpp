@@ -30,8 +30,10 @@ void add_any(List &list, Random &random) {
   const aaa_attr_meta *maybe = random.below(8) == 0 ? &meta : nullptr;
   std::string value(1 + random.below(random.below(20) == 0 ? 900 : 40), static_cast<char>(random.below(3)));
   std::memcpy(value.data(), &bait, std::min<std::size_t>(value.size(), 2));
-  list.text(type, value, maybe);  // refused where the type has its own length
-  list.number(type, random.below(4) << 16 | bait, maybe);
+  // Either is refused where the type has its own length.
+  (void)aaa_attr_add(list, type, value.data(), static_cast<std::uint32_t>(value.size()), maybe);
+  const std::uint32_t number = random.below(4) << 16 | bait;
+  (void)aaa_attr_add(list, type, &number, sizeof number, maybe);
 }
 
 List long_list(std::uint32_t seed, int adds, std::uint32_t removed_type = 0) {
@@ -82,13 +84,29 @@ TEST(LongList, IsSearchedAsItIsWalked) {
   }
 }
 
+// Over ten thousand records in hundreds of blocks, and a group after them.
+TEST(LongList, GoesThroughBuffersAndBack) {
+  List list = long_list(3, 12'000);
+  const std::uint32_t number = 7;
+  must(aaa_attr_add(list.group(type::kGrouped), type::kUlong, &number, sizeof number, nullptr), "adding to a group");
+  ASSERT_GT(aaa_attr_list_attr_count(list), 10'000u);
+  const std::string expected = outline(list);
+  for (const Bytes &buffer : {flat_buffer(list), tlv_buffer(list)}) {
+    const char *const form = buffer[0] == AAA_MARSHAL_TLV ? "TLV" : "flat";
+    List back;
+    ASSERT_EQ(decode(buffer, &back), 0u) << form;
+    EXPECT_TRUE(outline(back) == expected) << form << ": another list";
+    EXPECT_EQ(aaa_attr_list_eq(list, back), 1) << form;
+  }
+}
+
 // After a record of type 0 nothing is found, in whatever block it stands. The first of a process tells it for good:
 // the two ways in which it can come have a test each.
 TEST(LongList, EndsAtTypeZeroThatWasAdded) {
   List list = long_list(1, 100);
   list.number(0, 1);
   ASSERT_EQ(aaa_attr_list_append_list(list, long_list(2, 50)), 0u);
-  list.number(301, 1);
+  list.number(AAA_ATTR_TYPE_INNER_VLAN_ID, 1);
   EXPECT_EQ(searched(list), walked(list));
   // What is merged in is not found again, and so not replaced by what comes after it.
   List source;
@@ -100,11 +118,11 @@ TEST(LongList, EndsAtTypeZeroThatWasAdded) {
 
 TEST(LongList, EndsAtTypeZeroThatCameInABuffer) {
   List list = long_list(1, 100);
-  list.number(304, 0x1234);
+  list.number(AAA_ATTR_TYPE_VPI, 0x1234);
   ASSERT_EQ(aaa_attr_list_append_list(list, long_list(2, 50)), 0u);
-  list.number(301, 1);
+  list.number(AAA_ATTR_TYPE_INNER_VLAN_ID, 1);
   Bytes buffer = flat_buffer(list);
-  const Bytes record = join({in_host_order<std::uint16_t>(304), in_host_order<std::uint16_t>(0),
+  const Bytes record = join({in_host_order<std::uint16_t>(AAA_ATTR_TYPE_VPI), in_host_order<std::uint16_t>(0),
                              in_host_order<std::uint32_t>(4), in_host_order<std::uint32_t>(0x1234)});
   const auto at = std::search(buffer.begin(), buffer.end(), record.begin(), record.end());
   ASSERT_NE(at, buffer.end());
@@ -160,13 +178,17 @@ TEST(LongList, EqualsItselfShuffledAndNothingElse) {
   for (std::uint32_t first_type : {1u, 500u}) {
     for (const bool repeated : {false, true}) {
       List list;
-      for (std::uint32_t type = first_type; type < first_type + 120; ++type) list.number(type, type);  // most take it
-      if (repeated) list.number(type::kUlong, 1).number(300, 7).number(300, 8);
+      for (std::uint32_t type = first_type; type < first_type + 120; ++type)
+        (void)aaa_attr_add(list, type, &type, sizeof type, nullptr);  // most take a number
+      if (repeated)
+        list.number(type::kUlong, 1)
+            .number(AAA_ATTR_TYPE_PHYSICAL_CHANNEL, 7)
+            .number(AAA_ATTR_TYPE_PHYSICAL_CHANNEL, 8);
       List other = shuffled(list, random);
       EXPECT_TRUE(aaa_attr_list_eq(list, other) && aaa_attr_list_eq(other, list));
-      other.number(300, 7);
+      other.number(AAA_ATTR_TYPE_PHYSICAL_CHANNEL, 7);
       EXPECT_EQ(aaa_attr_list_eq(list, other), repeated) << "lists are equal as sets";
-      other.number(300, 9);
+      other.number(AAA_ATTR_TYPE_PHYSICAL_CHANNEL, 9);
       EXPECT_FALSE(aaa_attr_list_eq(list, other) || aaa_attr_list_eq(other, list));
     }
   }

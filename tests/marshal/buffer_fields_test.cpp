@@ -141,6 +141,8 @@ void expect_cover(const Bytes &buffer) {
     std::size_t at = 0;
     for (const aaa_attr_field &field : fields.all) {
       ASSERT_EQ(field.offset, at) << name_of(field.kind) << " to reader " << reader;
+      const bool no_number = field.kind == AAA_ATTR_FIELD_VALUE || field.kind == AAA_ATTR_FIELD_UNREAD || field.missing;
+      ASSERT_TRUE(!no_number || field.number == 0) << name_of(field.kind) << " at " << at << " has a number";
       at += field.size;
     }
     ASSERT_EQ(at, buffer.size()) << "to reader " << reader;

@@ -57,13 +57,12 @@ class List {
   aaa_attr_list_handle *out() { return &handle_; }
   aaa_attr_list_handle release() { return std::exchange(handle_, 0); }
 
-  // Add what the list takes of it: a row of a table may have a value that its type refuses.
   List &text(std::uint32_t type, std::string_view value, const aaa_attr_meta *meta = nullptr) {
-    (void)aaa_attr_add(handle_, type, value.data(), static_cast<std::uint32_t>(value.size()), meta);
+    must(aaa_attr_add(handle_, type, value.data(), static_cast<std::uint32_t>(value.size()), meta), "adding a value");
     return *this;
   }
   List &number(std::uint32_t type, std::uint32_t value, const aaa_attr_meta *meta = nullptr) {
-    (void)aaa_attr_add(handle_, type, &value, sizeof value, meta);
+    must(aaa_attr_add(handle_, type, &value, sizeof value, meta), "adding a number");
     return *this;
   }
   // Adds an empty sub-list, which this list owns; 0 when that fails.
