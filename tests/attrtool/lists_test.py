@@ -140,7 +140,8 @@ class Decode(unittest.TestCase):
                 ("flat", 100, "byte 11: a block's used bytes must end within the buffer (flat buffer, "),
                 ("network", 100, "byte 11: a block's used bytes must end within the buffer (flat buffer in network form"),
                 ("tlv", 100, "byte 1: a list's total must end within what contains the list (TLV buffer, "),
-                ("tlv-swapped", 100, "(TLV buffer of the other byte order")]:
+                ("tlv-swapped", 100, "byte 1: a list's total must end within what contains the list (TLV buffer of the "
+                                     "other byte order, ")]:
             with self.subTest(form):
                 status, out, error = call("decode", "-", stdin=encoded(SESSION.read_bytes(), form)[:cut])
                 self.assertEqual((status, out), (1, b""))

@@ -107,6 +107,45 @@ class Explain(unittest.TestCase):
                         if secret in path.read_bytes():
                             self.assertIn(secret.hex(), hex_of(form, shown))
 
+    def test_tlv_of_the_other_byte_order(self):
+        """Whole, cut at every byte, or with a byte changed: what is said of it is what is said of the host's own."""
+        text = b'username = mira\nFramed-MTU = 1500\nInput octets = 12345678901\nSubscription ID = {\n' \
+               b'  Subscription ID Data = "100-2277"\n}\naddr [tag=3] = 10.1.2.3\n'
+        own, other = [call("encode", "--to", form, "-", stdin=text)[1] for form in ["tlv", "tlv-swapped"]]
+        self.assertTrue(len(own) == len(other) > 60 and own != other)
+        with tempfile.TemporaryDirectory() as directory:
+            said = []
+            for buffer in [own, other]:
+                for size in range(5, len(buffer) + 1):
+                    pathlib.Path(directory, f"{size:03}").write_bytes(buffer[:size])
+                lines = call("check", "--json", directory)[1].splitlines()
+                said.append([json.loads(line) for line in lines])
+            for of_own, of_other in zip(*said):
+                self.assertEqual({**of_other, "form": "TLV buffer"}, {**of_own, "form": "TLV buffer"}, of_own)
+            self.assertIn("other byte order", said[1][-2]["form"])
+            path = pathlib.Path(directory, "whole")
+            explanations = []
+            for buffer in [own, other]:
+                path.write_bytes(buffer)
+                status, found = explained(path)
+                self.assertEqual((status, hex_of("--json", call("explain", "--json", path)[1])), (0, buffer.hex()))
+                explanations.append([[(field["name"], field["offset"], field["meaning"]) for field in section["fields"]]
+                                     for section in found["sections"]])
+            self.assertEqual(*explanations)
+
+    def test_dumps_and_what_comes_before_a_buffer(self):
+        """explain and check read what decode reads."""
+        nested = (BUFFERS / "good" / "nested").read_bytes()
+        for verb in ["explain", "check"]:
+            expected = call(verb, "-", stdin=nested)
+            self.assertEqual(expected[0], 0)
+            self.assertEqual(call(verb, "--hex", "-", stdin=nested.hex(" ").encode()), expected)
+            self.assertEqual(call(verb, "--skip", 20, "-", stdin=bytes(20) + nested), expected)
+            self.assertEqual(call(verb, "--hex", "--skip", 1, "-", stdin=b"ff" + nested.hex().encode()), expected)
+            status, out, error = call(verb, "--hex", "-", stdin=b"01 cd xx")
+            self.assertEqual((status, out), (2 if verb == "check" else 1, b""))
+            self.assertIn("expected pairs of hexadecimal digits", error)
+
     def test_colours(self):
         """Only where they are asked for, or on a terminal that wants them."""
         path = BUFFERS / "bad" / "used"

@@ -6,10 +6,11 @@
 #include <filesystem>
 #include <iostream>
 #include <memory>
+#include <optional>
 
-#include "capture.h"
 #include "check_captures.h"
 #include "explain_words.h"
+#include "input.h"
 #include "verbs.h"
 
 namespace attrtool {
@@ -27,6 +28,7 @@ read.)";
 
 struct Arguments {
   std::vector<std::string> paths;
+  Reading reading;
   bool json = false, all = false, strict = false;
 };
 
@@ -101,16 +103,17 @@ class Run {
 
  private:
   void check_file(const std::string &file) {
+    std::optional<Input> input;
     try {
-      read_capture(file, &bytes_);
-    } catch (const Failure &failure) {
+      input.emplace(read_input(file, arguments_.reading));
+    } catch (const std::runtime_error &failure) {
       progress_.clear();
       std::cerr << "attrtool: " << failure.what() << '\n';
       tally_.add_unreadable();
       return;
     }
     const std::string name = file == "-" ? "standard input" : file;
-    const Checked checked = check(name, bytes_, byte_order_of(bytes_), arguments_.strict);
+    const Checked checked = check(name, Capture(input->bytes()), arguments_.strict);
     tally_.add(checked);
     if (arguments_.json) return write_json(checked, std::cout);
     if (in_bulk_ && !arguments_.all && checked.refusal == nullptr) return;
@@ -123,7 +126,6 @@ class Run {
   Progress progress_;
   bool in_bulk_;  // found in directories: the good ones are not worth a line
   Tally tally_;
-  std::vector<std::uint8_t> bytes_;
 };
 
 }  // namespace
@@ -135,6 +137,7 @@ void add_check(CLI::App &program, const Options &, int *status) {
   verb->add_flag("--json", arguments->json, "Write JSON lines: captures, then a summary");
   verb->add_flag("--all", arguments->all, "Name the good captures of a directory, too");
   verb->add_flag("--strict", arguments->strict, "Good are only captures that every reader takes");
+  add_reading(verb, &arguments->reading);
   verb->footer(kExamples);
   verb->callback([arguments, status] { *status = Run(*arguments).run(); });
 }

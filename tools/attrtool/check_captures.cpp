@@ -51,17 +51,16 @@ class Counter {
 
 }  // namespace
 
-Checked check(std::string name, ByteSpan bytes, ByteOrder order, bool strict) {
+Checked check(std::string name, const Capture &capture, bool strict) {
   Checked checked;
   checked.name = std::move(name);
-  checked.form = form_of(bytes, order);
-  checked.size = bytes.size();
-  checked.verdicts = verdicts_of(bytes, order);
+  checked.form = name_of(capture.form());
+  checked.size = capture.bytes().size();
+  checked.verdicts = verdicts_of(capture);
   checked.places.assign(checked.verdicts.size(), "the end");
   checked.refusal = refusal_of(checked.verdicts, strict);
   Counter counter(&checked);
-  aaa_attr_buffer_fields(bytes.data(), static_cast<std::uint32_t>(bytes.size()), leading_reader(bytes, order),
-                         Counter::take, &counter, nullptr);
+  read_fields(capture, Counter::take, &counter);
   return checked;
 }
 

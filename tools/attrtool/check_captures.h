@@ -25,7 +25,7 @@ struct Checked {
   }
 };
 
-Checked check(std::string name, ByteSpan bytes, ByteOrder order, bool strict);
+Checked check(std::string name, const Capture &capture, bool strict);
 
 // One line: "FILE: flat buffer, 185 bytes: 3 lists, 4 blocks, 6 records", or why it is refused.
 void write_text(const Checked &checked, std::ostream &out);

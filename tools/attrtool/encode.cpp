@@ -45,8 +45,8 @@ std::vector<std::uint8_t> encoded(attrmgr::list &list, const std::string &to) {
   const bool flat = to == "flat" || to == "network";
   std::vector<std::uint8_t> bytes = copied(flat ? list.to_flat() : list.to_tlv());
   if (flat) check(aaa_attr_buffer_scrub(bytes.data(), static_cast<std::uint32_t>(bytes.size())));
-  if (to == "network") check(to_other_order({Layout::kFlat, false}, &bytes));
-  if (to == "tlv-swapped") check(to_other_order({Layout::kTlv, false}, &bytes));
+  if (to == "network") check(to_other_order({Layout::kFlat, false}, bytes));
+  if (to == "tlv-swapped") check(to_other_order({Layout::kTlv, false}, bytes));
   return bytes;
 }
 

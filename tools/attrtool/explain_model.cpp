@@ -5,6 +5,7 @@
 
 #include "explain_secrets.h"
 #include "explain_words.h"
+#include "tlv_order.h"
 
 namespace attrtool {
 namespace {
@@ -14,8 +15,8 @@ constexpr std::uint64_t kBlockHead = 0x01, kHoldsGrouped = 0x04, kRemoved = 0x02
 // Makes sections of fields as the library tells of them, and keeps track of which list is whose.
 class Builder {
  public:
-  Builder(Explanation *made, ByteOrder order, bool show_secrets)
-      : made_(*made), order_(order), show_secrets_(show_secrets), tlv_(made->bytes[0] == AAA_MARSHAL_TLV) {}
+  Builder(Explanation *made, const Capture &capture, bool show_secrets)
+      : made_(*made), capture_(capture), show_secrets_(show_secrets), tlv_(capture.form().layout == Layout::kTlv) {}
 
   static void take(const aaa_attr_field *field, void *builder) { static_cast<Builder *>(builder)->take(*field); }
 
@@ -149,11 +150,11 @@ class Builder {
   }
 
   std::string value_of(const aaa_attr_field &field) const {
-    const ByteSpan value = made_.bytes.subspan(field.offset, field.size);
+    const ByteSpan value = capture_.readable().subspan(field.offset, field.size);
     const std::uint32_t format = aaa_attr_get_format_from_type(field.type);
     const bool is_number = format == AAA_ATTR_FMT_ULONG || format == AAA_ATTR_FMT_ENUM;
     if (field.missing > 0) return quoted(value, kShownOfCutValue);
-    if (order_ != ByteOrder::kNetwork || !is_number) return value_text(field.type, value, !tlv_);
+    if (!capture_.in_network_form() || !is_number) return value_text(field.type, value, !tlv_);
     const std::vector<std::uint8_t> turned(value.rbegin(), value.rend());
     return value_text(field.type, turned, true);
   }
@@ -173,7 +174,7 @@ class Builder {
   static constexpr std::size_t kShownOfCutValue = 64;
 
   Explanation &made_;
-  ByteOrder order_;
+  const Capture &capture_;
   bool show_secrets_, tlv_;
   std::vector<Level> levels_;
   bool left_out_ = false;
@@ -188,8 +189,10 @@ Verdict verdict(const char *reader, const char *words, ByteSpan bytes, aaa_attr_
 
 }  // namespace
 
-aaa_attr_reader leading_reader(ByteSpan bytes, ByteOrder order) {
-  return bytes[0] == AAA_MARSHAL_BUFFER && order == ByteOrder::kNetwork ? AAA_ATTR_READER_NTOH : AAA_ATTR_READER_LIST;
+Capture::Capture(ByteSpan bytes) : bytes_(bytes), form_(form_of(bytes)) {
+  if (form_.layout != Layout::kTlv || !form_.other_order) return;
+  turned_.assign(bytes.begin(), bytes.end());
+  turn_tlv(turned_, TlvOrder::kToHost);
 }
 
 const Field *Explanation::field_at(std::uint32_t offset) const {
@@ -206,8 +209,9 @@ const Verdict *refusal_of(const std::vector<Verdict> &verdicts, bool strict) {
   return refused != verdicts.end() ? &*refused : nullptr;
 }
 
-std::vector<Verdict> verdicts_of(ByteSpan bytes, ByteOrder order) {
-  if (leading_reader(bytes, order) == AAA_ATTR_READER_LIST) {
+std::vector<Verdict> verdicts_of(const Capture &capture) {
+  const ByteSpan bytes = capture.readable();
+  if (!capture.in_network_form()) {
     std::vector<Verdict> verdicts = {verdict("list", "as a list", bytes, AAA_ATTR_READER_LIST, true)};
     if (bytes[0] != AAA_MARSHAL_BUFFER) return verdicts;
     verdicts.push_back(verdict("in_place", "in place", bytes, AAA_ATTR_READER_IN_PLACE));
@@ -215,33 +219,26 @@ std::vector<Verdict> verdicts_of(ByteSpan bytes, ByteOrder order) {
     return verdicts;
   }
   std::vector<Verdict> verdicts = {verdict("to_host", "to host form", bytes, AAA_ATTR_READER_NTOH, true)};
-  if (!verdicts[0].accepted()) return verdicts;
   std::vector<std::uint8_t> host(bytes.begin(), bytes.end());
-  if (aaa_attrs_buffer_tran_v1(reinterpret_cast<char *>(host.data()), static_cast<std::uint32_t>(host.size()),
-                               CDM_ENDIAN_TRAN_NTOH) != 0)
-    return verdicts;
+  if (!verdicts[0].accepted() || to_host_order(capture.form(), host) != 0) return verdicts;
   verdicts.push_back(verdict("list", "then as a list", host, AAA_ATTR_READER_LIST, true));
   verdicts.push_back(verdict("in_place", "then in place", host, AAA_ATTR_READER_IN_PLACE));
   return verdicts;
 }
 
-std::string form_of(ByteSpan bytes, ByteOrder order) {
-  if (bytes[0] == AAA_MARSHAL_TLV) return "TLV buffer";
-  if (bytes[0] > AAA_MARSHAL_TLV) return "buffer of no known form";
-  const bool network = order == ByteOrder::kNetwork;
-  const bool foreign =
-      !network && aaa_attr_buffer_is_alien(bytes.data(), static_cast<std::uint32_t>(bytes.size())) != 0;
-  return std::string("flat buffer") + (network ? " in network form" : foreign ? " with the foreign layout" : "");
+void read_fields(const Capture &capture, aaa_attr_field_callback take, void *context) {
+  const ByteSpan bytes = capture.readable();
+  aaa_attr_buffer_fields(bytes.data(), static_cast<std::uint32_t>(bytes.size()), capture.leading_reader(), take,
+                         context, nullptr);
 }
 
-Explanation explain(ByteSpan bytes, ByteOrder order, bool show_secrets) {
+Explanation explain(const Capture &capture, bool show_secrets) {
   Explanation made;
-  made.bytes = bytes;
-  made.form = form_of(bytes, order);
-  made.verdicts = verdicts_of(bytes, order);
-  Builder builder(&made, order, show_secrets);
-  aaa_attr_buffer_fields(bytes.data(), static_cast<std::uint32_t>(bytes.size()), leading_reader(bytes, order),
-                         Builder::take, &builder, nullptr);
+  made.bytes = capture.bytes();
+  made.form = name_of(capture.form());
+  made.verdicts = verdicts_of(capture);
+  Builder builder(&made, capture, show_secrets);
+  read_fields(capture, Builder::take, &builder);
   return made;
 }
 

@@ -10,12 +10,29 @@
 #include <string>
 #include <vector>
 
+#include "form.h"
+
 namespace attrtool {
 
-using ByteSpan = std::span<const std::uint8_t>;
+// A buffer as it is, and as its readers get it: that of a host of the other byte order, if it is TLV, is turned before,
+// each field in its place. Flat buffers in network form have readers of their own.
+class Capture {
+ public:
+  explicit Capture(ByteSpan bytes);
 
-// How a buffer is held: in the order of this host, or as the translation makes it for others.
-enum class ByteOrder { kHost, kNetwork };
+  ByteSpan bytes() const { return bytes_; }
+  ByteSpan readable() const { return turned_.empty() ? bytes_ : turned_; }
+  Form form() const { return form_; }
+  bool in_network_form() const { return form_.other_order && form_.layout != Layout::kTlv; }
+
+  // The reader that leads through the fields.
+  aaa_attr_reader leading_reader() const { return in_network_form() ? AAA_ATTR_READER_NTOH : AAA_ATTR_READER_LIST; }
+
+ private:
+  ByteSpan bytes_;
+  Form form_;
+  std::vector<std::uint8_t> turned_;
+};
 
 struct Field {
   std::uint32_t offset, size;
@@ -68,14 +85,13 @@ struct Explanation {
 
 // A buffer of at least its marker. Secrets: values of opaque types and whatever LI attributes hold, which are hidden
 // unless they are asked for.
-Explanation explain(ByteSpan bytes, ByteOrder order, bool show_secrets);
+Explanation explain(const Capture &capture, bool show_secrets);
 
-// The reader that leads through the fields of a buffer.
-aaa_attr_reader leading_reader(ByteSpan bytes, ByteOrder order);
+// The answers alone.
+std::vector<Verdict> verdicts_of(const Capture &capture);
 
-// The answers alone, and how the buffer is called.
-std::vector<Verdict> verdicts_of(ByteSpan bytes, ByteOrder order);
-std::string form_of(ByteSpan bytes, ByteOrder order);
+// Calls take(field, context) for each field.
+void read_fields(const Capture &capture, aaa_attr_field_callback take, void *context);
 
 // The first answer that keeps the buffer from being decoded, or, if strict, that refuses it at all; null for a good
 // one.

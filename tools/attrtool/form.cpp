@@ -41,6 +41,11 @@ std::size_t place_of_flat(ByteSpan bytes) {
   return 0;
 }
 
+aaa_attr_cerrno translate(std::span<std::uint8_t> bytes, cdm_endian_tran_type direction) {
+  return aaa_attrs_buffer_tran_v1(reinterpret_cast<char *>(bytes.data()), static_cast<std::uint32_t>(bytes.size()),
+                                  direction);
+}
+
 }  // namespace
 
 std::string name_of(Form form) {
@@ -48,14 +53,14 @@ std::string name_of(Form form) {
     case Layout::kFlat:
       return form.other_order ? "flat buffer in network form" : "flat buffer";
     case Layout::kForeign:
-      return form.other_order ? "flat buffer of the foreign layout in network form"
-                              : "flat buffer of the foreign layout";
+      return form.other_order ? "flat buffer with the foreign layout in network form"
+                              : "flat buffer with the foreign layout";
     case Layout::kTlv:
       return form.other_order ? "TLV buffer of the other byte order" : "TLV buffer";
     case Layout::kUnknown:
       break;
   }
-  return "unknown form";
+  return "buffer of no known form";
 }
 
 Form form_of(ByteSpan bytes) {
@@ -76,17 +81,21 @@ std::string why_unknown(ByteSpan bytes) {
   return reason;
 }
 
-aaa_attr_cerrno to_host_order(Form form, std::vector<std::uint8_t> *bytes) {
+aaa_attr_cerrno to_host_order(Form form, std::span<std::uint8_t> bytes) {
   if (!form.other_order) return 0;
-  if (form.layout == Layout::kTlv) return reorder_tlv(bytes, TlvOrder::kToHost);
-  return aaa_attrs_buffer_tran_v1(reinterpret_cast<char *>(bytes->data()), static_cast<std::uint32_t>(bytes->size()),
-                                  CDM_ENDIAN_TRAN_NTOH);
+  if (form.layout == Layout::kTlv) {
+    turn_tlv(bytes, TlvOrder::kToHost);
+    return 0;
+  }
+  return translate(bytes, CDM_ENDIAN_TRAN_NTOH);
 }
 
-aaa_attr_cerrno to_other_order(Form form, std::vector<std::uint8_t> *bytes) {
-  if (form.layout == Layout::kTlv) return reorder_tlv(bytes, TlvOrder::kFromHost);
-  return aaa_attrs_buffer_tran_v1(reinterpret_cast<char *>(bytes->data()), static_cast<std::uint32_t>(bytes->size()),
-                                  CDM_ENDIAN_TRAN_HTON);
+aaa_attr_cerrno to_other_order(Form form, std::span<std::uint8_t> bytes) {
+  if (form.layout == Layout::kTlv) {
+    turn_tlv(bytes, TlvOrder::kFromHost);
+    return 0;
+  }
+  return translate(bytes, CDM_ENDIAN_TRAN_HTON);
 }
 
 }  // namespace attrtool

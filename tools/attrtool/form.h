@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "capture.h"
+#include "byte_span.h"
 
 namespace attrtool {
 
@@ -27,11 +27,11 @@ Form form_of(ByteSpan bytes);
 // Why a buffer of an unknown form is none, and where one may begin: "byte 0 is 0x45: ...".
 std::string why_unknown(ByteSpan bytes);
 
-// Turns the buffer into this host's order where it is in another, in place: every field keeps its offset. 0, or the
-// library's code; the buffer is unchanged then.
-[[nodiscard]] aaa_attr_cerrno to_host_order(Form form, std::vector<std::uint8_t> *bytes);
+// Turns the buffer into this host's order where it is in another, in place: every field keeps its offset. A TLV buffer
+// that is damaged is turned as far as it goes; for a flat one the library's code is given, and nothing is changed.
+[[nodiscard]] aaa_attr_cerrno to_host_order(Form form, std::span<std::uint8_t> bytes);
 
 // The same the other way round.
-[[nodiscard]] aaa_attr_cerrno to_other_order(Form form, std::vector<std::uint8_t> *bytes);
+[[nodiscard]] aaa_attr_cerrno to_other_order(Form form, std::span<std::uint8_t> bytes);
 
 }  // namespace attrtool

@@ -4,8 +4,9 @@
 #include <CLI/CLI.hpp>
 #include <string>
 #include <utility>
+#include <vector>
 
-#include "capture.h"
+#include "byte_span.h"
 
 namespace attrtool {
 
@@ -18,12 +19,12 @@ struct Reading {
 // Adds --hex and --skip.
 void add_reading(CLI::App *verb, Reading *reading);
 
-// The bytes of a file. A large file is mapped: the memory of the process does not grow with it.
+// The bytes of a file, which may be written to: the file stays as it is. A large file is mapped: the memory of the
+// process grows only with what is written.
 class Input {
  public:
   explicit Input(std::vector<std::uint8_t> bytes) : owned_(std::move(bytes)), bytes_(owned_) {}
-  Input(const void *mapped, std::size_t size)
-      : mapped_(mapped), bytes_(static_cast<const std::uint8_t *>(mapped), size) {}
+  Input(void *mapped, std::size_t size) : mapped_(mapped), bytes_(static_cast<std::uint8_t *>(mapped), size) {}
   Input(Input &&other) noexcept
       : owned_(std::move(other.owned_)),
         mapped_(std::exchange(other.mapped_, nullptr)),
@@ -33,13 +34,14 @@ class Input {
   ~Input();
 
   ByteSpan bytes() const { return bytes_.subspan(skipped_); }
+  std::span<std::uint8_t> bytes() { return bytes_.subspan(skipped_); }
   std::size_t skipped() const { return skipped_; }
   void skip(std::size_t bytes) { skipped_ = bytes; }
 
  private:
   std::vector<std::uint8_t> owned_;
-  const void *mapped_ = nullptr;
-  ByteSpan bytes_;
+  void *mapped_ = nullptr;
+  std::span<std::uint8_t> bytes_;
   std::size_t skipped_ = 0;
 };
 

@@ -22,23 +22,16 @@ aaa_attr_fault fault_of(ByteSpan buffer, aaa_attr_reader reader, aaa_attr_cerrno
 
 bool is_text(ByteSpan bytes) { return bytes.front() >= ' ' || bytes.front() == '\n' || bytes.front() == '\t'; }
 
-Loaded decode(const std::string &file, const Input &input) {
-  ByteSpan buffer = input.bytes();
-  if (buffer.size() > UINT32_MAX) throw Refusal(file + ": no buffer is larger than 4 GiB");
+Loaded decode(const std::string &file, Input input) {
+  const std::span<std::uint8_t> buffer = input.bytes();
   const Form form = form_of(buffer);
   if (form.layout == Layout::kUnknown)
     throw Refusal(file + ": " + why_unknown(buffer) +
                   (is_text(buffer) ? "; if this is text that shows bytes in hexadecimal, give --hex" : ""));
   aaa_attr_cerrno code = 0;
-  std::vector<std::uint8_t> turned;
-  if (form.other_order) {
-    turned.assign(buffer.begin(), buffer.end());
-    if ((code = to_host_order(form, &turned)) != 0) {
-      if (form.layout == Layout::kTlv) throw Refusal(file + ": the lengths do not add up (" + name_of(form) + ")");
-      const aaa_attr_fault fault = fault_of(buffer, AAA_ATTR_READER_NTOH, &code);
-      refuse(file, input.skipped() + fault.offset, aaa_attr_rule_text(fault.rule), form, code);
-    }
-    buffer = turned;
+  if (to_host_order(form, buffer) != 0) {
+    const aaa_attr_fault fault = fault_of(buffer, AAA_ATTR_READER_NTOH, &code);
+    refuse(file, input.skipped() + fault.offset, aaa_attr_rule_text(fault.rule), form, code);
   }
   const aaa_attr_fault fault = fault_of(buffer, AAA_ATTR_READER_LIST, &code);
   if (code != 0) refuse(file, input.skipped() + fault.offset, aaa_attr_rule_text(fault.rule), form, code);
@@ -69,9 +62,9 @@ Loaded load_text(const std::string &path) {
 }
 
 Loaded load(const std::string &path, const Reading &reading) {
-  const Input input = read_input(path, reading);
+  Input input = read_input(path, reading);
   if (!reading.hex && is_text(input.bytes())) return read_text(shown_name(path), input.bytes());
-  return decode(shown_name(path), input);
+  return decode(shown_name(path), std::move(input));
 }
 
 attrtext::Secrets secrets(bool shown) { return shown ? attrtext::Secrets{} : attrtext::Secrets{is_opaque, true}; }

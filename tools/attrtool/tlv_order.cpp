@@ -33,12 +33,15 @@ class Reorder {
  public:
   explicit Reorder(TlvOrder order) : reversed_(order == TlvOrder::kToHost) {}
 
+  // False where it ends before the body does.
   bool body(std::span<std::uint8_t> &from, unsigned depth) {
     std::uint32_t total = 0;
     if (depth > AAA_ATTR_NESTING_MAX || !take_number(from, &total)) return false;
-    if (total < kNumber || total - kNumber > from.size()) return false;
-    std::span<std::uint8_t> records = from.first(total - kNumber);
-    from = from.subspan(total - kNumber);
+    if (total < kNumber) return false;
+    // A list that is cut short is shown as far as it goes.
+    const std::size_t size = std::min<std::size_t>(total - kNumber, from.size());
+    std::span<std::uint8_t> records = from.first(size);
+    from = from.subspan(size);
     while (!records.empty())
       if (!record(records, depth)) return false;
     return true;
@@ -87,12 +90,9 @@ bool is_tlv_of_other_order(ByteSpan bytes) {
   return fits(other) || (other >= kNumber && other < host);
 }
 
-aaa_attr_cerrno reorder_tlv(std::vector<std::uint8_t> *bytes, TlvOrder order) {
-  std::vector<std::uint8_t> turned = *bytes;
-  std::span<std::uint8_t> body = std::span(turned).subspan(kMarker);
-  if (!Reorder(order).body(body, 0)) return AAA_ATTR_ERR_BAD_LENGTH;
-  *bytes = std::move(turned);
-  return 0;
+void turn_tlv(std::span<std::uint8_t> bytes, TlvOrder order) {
+  std::span<std::uint8_t> body = bytes.subspan(kMarker);
+  Reorder(order).body(body, 0);
 }
 
 }  // namespace attrtool

@@ -2,9 +2,7 @@
 // framing, of metas and of the formats that hold a number are turned round here, where they lie.
 #pragma once
 
-#include <attrmgr/aaa_attr_types.h>
-
-#include "capture.h"
+#include "byte_span.h"
 
 namespace attrtool {
 
@@ -13,7 +11,8 @@ bool is_tlv_of_other_order(ByteSpan bytes);
 
 enum class TlvOrder { kToHost, kFromHost };
 
-// AAA_ATTR_ERR_BAD_LENGTH where the lengths do not add up or lists nest too deep; the buffer is unchanged then.
-[[nodiscard]] aaa_attr_cerrno reorder_tlv(std::vector<std::uint8_t> *bytes, TlvOrder order);
+// Turns the numbers where they lie, as far as the lengths of the buffer add up: what refuses it then is what would have
+// refused it where it was made, at the same byte.
+void turn_tlv(std::span<std::uint8_t> bytes, TlvOrder order);
 
 }  // namespace attrtool
