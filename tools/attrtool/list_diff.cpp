@@ -1,8 +1,11 @@
 #include "list_diff.h"
 
-#include <algorithm>
+#include <deque>
+#include <map>
 #include <set>
 #include <string>
+#include <string_view>
+#include <utility>
 
 namespace attrtool {
 namespace {
@@ -79,12 +82,18 @@ class Pairing {
       : before_(std::move(before)), after_(std::move(after)), with_li_(with_li) {}
 
   std::vector<Change> pair() {
-    std::vector<Change> changes;
+    std::map<std::pair<std::uint32_t, std::string_view>, Candidates> by_value;
+    std::map<std::uint32_t, Candidates> by_type;
+    for (const Keyed &each : after_) {
+      by_value[{each.attribute.type(), each.value}].push_back(&each);
+      by_type[each.attribute.type()].push_back(&each);
+    }
     // First those of which the value has stayed, so that no other takes their partner.
-    std::vector<const Keyed *> partners(before_.size());
-    for (const bool same_value : {true, false})
-      for (std::size_t i = 0; i < before_.size(); ++i)
-        if (partners[i] == nullptr) partners[i] = take_partner(before_[i], same_value);
+    std::vector<const Keyed *> partners;
+    for (const Keyed &each : before_) partners.push_back(take_one(by_value[{each.attribute.type(), each.value}]));
+    for (std::size_t i = 0; i < before_.size(); ++i)
+      if (partners[i] == nullptr) partners[i] = take_one(by_type[before_[i].attribute.type()]);
+    std::vector<Change> changes;
     for (std::size_t i = 0; i < before_.size(); ++i) changes.push_back(change_of(before_[i], partners[i]));
     for (const Keyed &each : after_)
       if (taken_.count(&each) == 0) changes.push_back({ChangeKind::kAdded, std::nullopt, each.attribute, {}});
@@ -92,10 +101,14 @@ class Pairing {
   }
 
  private:
-  const Keyed *take_partner(const Keyed &of, bool same_value) {
-    for (const Keyed &each : after_) {
-      if (each.attribute.type() != of.attribute.type() || (same_value && each.value != of.value)) continue;
-      if (taken_.insert(&each).second) return &each;
+  using Candidates = std::deque<const Keyed *>;
+
+  // The first that nobody has taken; null when there is none.
+  const Keyed *take_one(Candidates &candidates) {
+    while (!candidates.empty()) {
+      const Keyed *first = candidates.front();
+      candidates.pop_front();
+      if (taken_.insert(first).second) return first;
     }
     return nullptr;
   }
