@@ -103,7 +103,7 @@ class Query {
   explicit Query(const std::vector<std::string> &words) {
     for (const std::string &word : words) take(word);
     if (use_.service || use_.protocol)
-      tests_.push_back([use = use_](const TypeFacts &facts) { return use.suits(facts); });
+      tests_.emplace_back([use = use_](const TypeFacts &facts) { return use.suits(facts); });
   }
 
   bool suits(const TypeFacts &facts) const {
@@ -121,7 +121,7 @@ class Query {
     // A word that is part of no name may be a service, a protocol, or a value.
     const auto service = number_in(value_service, word), protocol = number_in(value_protocol, word);
     if (service || protocol) return (service ? use_.service : use_.protocol) = service ? service : protocol, void();
-    tests_.push_back([word](const TypeFacts &facts) { return has_value_named(facts, word); });
+    tests_.emplace_back([word](const TypeFacts &facts) { return has_value_named(facts, word); });
   }
 
   void take_key(const std::string &key, const std::string &value) {

@@ -113,7 +113,7 @@ void write_json_change(const Change &change, const attrtext::Secrets &secrets, s
   const attrmgr::attribute &either = change.before ? *change.before : *change.after;
   std::string name;
   attrtext::append_json_string(either.name(), &name);
-  std::cout << "{\"kind\": \"" << name_of(change.kind) << "\", \"type\": " << either.type() << ", \"name\": " << name;
+  std::cout << R"({"kind": ")" << name_of(change.kind) << R"(", "type": )" << either.type() << R"(, "name": )" << name;
   if (change.before) write_json_attribute(*change.before, secrets, indent, std::cout << ", \"a\": ");
   if (change.after) write_json_attribute(*change.after, secrets, indent, std::cout << ", \"b\": ");
   if (change.kind == ChangeKind::kNested) {
@@ -126,7 +126,7 @@ void write_json_change(const Change &change, const attrtext::Secrets &secrets, s
 void write_json_file(const char *key, const std::string &path, const Loaded &loaded) {
   std::string name;
   attrtext::append_json_string(path == "-" ? "standard input" : path, &name);
-  std::cout << "  \"" << key << "\": {\"file\": " << name << ", \"form\": \"" << loaded.form << "\"},\n";
+  std::cout << "  \"" << key << R"(": {"file": )" << name << R"(, "form": ")" << loaded.form << "\"},\n";
 }
 
 int run(const Arguments &arguments, const Options &options) {

@@ -37,7 +37,7 @@ const std::vector<Code> &codes() {
       {AAA_ATTR_ERR_BAD_BUFFER,
        {"a flat buffer was cut short on its way, or is not the whole message",
         "its bytes were changed, or it never was a flat buffer", "it is in network form, and was not translated first",
-        "lists nest deeper than 128 levels",
+        "lists nest too deep: AAA_ATTR_NESTING_MAX levels may lie below the outer one",
         "a buffer of the foreign layout is read in place, which the decoder alone can do"},
        {"attrtool explain FILE names the byte and the rule that is broken",
         "compare the bytes received with those that were sent",
@@ -48,8 +48,7 @@ const std::vector<Code> &codes() {
        {"look for lists that are never freed: docs/debugging.md", "split what is kept in one list into several"}},
       {AAA_ATTR_ERR_BAD_ARG,
        {"a null pointer, or a length of 0, where something must be",
-        "the length does not suit the format: 4 bytes for Ulong, Enum and IPv4, 16 for IPv6, 8 for a group, 1 for "
-        "Boolean",
+        "the length does not suit the format: 4 bytes for Ulong, Enum and IPv4, 16 for IPv6, 8 for a group",
         "an attribute would not fit the 65,535 bytes of a block",
         "the marker of a buffer is none, or not that of the form that the call takes",
         "source and destination are the same list"},

@@ -72,7 +72,7 @@ Form form_of(ByteSpan bytes) {
 std::string why_unknown(ByteSpan bytes) {
   char first[8];
   std::snprintf(first, sizeof first, "0x%02x", bytes[0]);
-  const std::string reason =
+  std::string reason =
       std::string("byte 0 is ") + first + ", but a buffer begins with its marker: 0x01 for flat, 0x02 for TLV";
   if (const std::size_t at = place_of_flat(bytes))
     return reason + "; a flat buffer may begin at byte " + std::to_string(at) + ": try --skip " + std::to_string(at);

@@ -43,7 +43,7 @@ class OpenFile {
  private:
   static constexpr std::uint64_t kLargest = std::numeric_limits<std::uint32_t>::max();
   static constexpr std::uint64_t kMappedFrom = 1 << 20;
-  static constexpr std::size_t kFirstRead = 64 * 1024;  // of what does not tell its size
+  static constexpr std::size_t kFirstRead = std::size_t{64} * 1024;  // of what does not tell its size
 
   std::vector<std::uint8_t> read_whole() {
     // One byte more than the file has: one that has not grown is read at once.

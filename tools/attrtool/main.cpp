@@ -47,12 +47,6 @@ int run(int argc, char **argv) {
   } catch (const CLI::ParseError &error) {
     std::cerr << "attrtool: " << printable(error.what()) << "; attrtool --help tells more\n";
     return kUsage;
-  } catch (const Refusal &refusal) {
-    std::cerr << "attrtool: " << refusal.what() << '\n';
-    return kNo;
-  } catch (const std::exception &failure) {
-    std::cerr << "attrtool: " << failure.what() << '\n';
-    return kUsage;
   }
   std::cout.flush();
   return std::cout ? status : kUsage;
@@ -61,4 +55,14 @@ int run(int argc, char **argv) {
 }  // namespace
 }  // namespace attrtool
 
-int main(int argc, char **argv) { return attrtool::run(argc, argv); }
+int main(int argc, char **argv) {
+  try {
+    return attrtool::run(argc, argv);
+  } catch (const attrtool::Refusal &refusal) {
+    std::cerr << "attrtool: " << refusal.what() << '\n';
+    return attrtool::kNo;
+  } catch (const std::exception &failure) {
+    std::cerr << "attrtool: " << failure.what() << '\n';
+    return attrtool::kUsage;
+  }
+}
