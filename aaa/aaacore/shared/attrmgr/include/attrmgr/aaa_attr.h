@@ -44,8 +44,8 @@ AAA_API aaa_attr_cerrno aaa_attr_client_register(const char *name, const uint16_
    Owner: the library; constant text. */
 AAA_API const char *aaa_attr_cerrno_name(aaa_attr_cerrno code) AAA_NOEXCEPT;
 
-/* Returns what a code means, for a message: "there is no such attribute, type or value name". "no error" for 0, "unknown
-   result code" for any other number. The texts may change.
+/* Returns what a code means, for a message: "there is no such attribute, type or value name". "no error" for 0,
+   "unknown result code" for any other number. The texts may change.
    code: what a call returned.
    Owner: the library; constant text. */
 AAA_API const char *aaa_attr_cerrno_text(aaa_attr_cerrno code) AAA_NOEXCEPT;
