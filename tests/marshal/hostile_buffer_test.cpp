@@ -150,6 +150,7 @@ TEST(Hostile, TheRuleIsNamed) {
 
 TEST(Hostile, FaultOfNothing) {
   const Bytes buffer = golden_buffer(golden::kNested);
+  const std::uint8_t kTlv = AAA_MARSHAL_TLV;
   aaa_attr_fault fault = {77, 77};
   EXPECT_EQ(aaa_attr_buffer_fault(buffer.data(), size_of(buffer), AAA_ATTR_READER_LIST, nullptr), AAA_ATTR_ERR_BAD_ARG);
   const std::tuple<const char *, const std::uint8_t *, std::uint32_t, int> rows[] = {
@@ -157,6 +158,7 @@ TEST(Hostile, FaultOfNothing) {
       {"no bytes", buffer.data(), 0, AAA_ATTR_READER_LIST},
       {"no reader", buffer.data(), size_of(buffer), 0},
       {"none that is known", buffer.data(), size_of(buffer), 5},
+      {"none that is known, and not a flat buffer", &kTlv, 1, 5},
   };
   for (const auto &[what, bytes, length, reader] : rows) {
     EXPECT_EQ(aaa_attr_buffer_fault(bytes, length, static_cast<aaa_attr_reader>(reader), &fault), AAA_ATTR_ERR_BAD_ARG)

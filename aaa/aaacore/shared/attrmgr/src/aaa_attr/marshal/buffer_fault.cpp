@@ -38,6 +38,8 @@ Answer read_list(int marker, Body body) {
   return read_flat<FlatReader<HostForm, FlatRules::kDecodable, Named>>(body);
 }
 
+bool is_known(aaa_attr_reader reader) { return reader >= AAA_ATTR_READER_LIST && reader <= AAA_ATTR_READER_NTOH; }
+
 bool takes_marker(aaa_attr_reader reader, int marker) {
   if (marker == AAA_MARSHAL_BUFFER) return true;
   return reader == AAA_ATTR_READER_LIST && (marker == 0 || marker == AAA_MARSHAL_TLV);
@@ -64,7 +66,7 @@ Answer read_as(aaa_attr_reader reader, const std::byte *buffer, std::uint32_t le
 
 Error find_fault(const std::byte *buffer, std::uint32_t length, aaa_attr_reader reader, aaa_attr_fault *fault) {
   *fault = {AAA_ATTR_RULE_NONE, 0};
-  if (buffer == nullptr || length == 0) return AAA_ATTR_ERR_BAD_ARG;
+  if (buffer == nullptr || length == 0 || !is_known(reader)) return AAA_ATTR_ERR_BAD_ARG;
   const Answer answer = read_as(reader, buffer, length);
   *fault = {static_cast<std::uint32_t>(answer.fault.rule), static_cast<std::uint32_t>(answer.fault.at - buffer)};
   return answer.error;
