@@ -237,25 +237,17 @@ AAA_API aaa_attr_cerrno aaa_attr_list_remove_common_attrs(aaa_attr_list_handle l
 /* ---- Combining ----
 
    Attributes of the source are added to the destination in the source's order, with their meta; a Grouped attribute
-   with a copy of its sub-list. The source is not changed, except by aaa_attr_list_merge_list and
-   aaa_attr_list_replace_and_add_v1. It must not be a sub-list of the destination, which could free it under way.
-   What was added before a failure stays. A list decoded from a flat buffer may hold what adding refuses, a type
-   that the dictionary does not have for one: the call ends there.
+   with a copy of its sub-list. The source is not changed, except by aaa_attr_list_replace_and_add_v1. It must not be a
+   sub-list of the destination, which could free it under way. What was added before a failure stays. A list decoded
+   from a flat buffer may hold what adding refuses, a type that the dictionary does not have for one: the call ends
+   there.
 
    destination  the list that receives attributes
    source       the list whose attributes are added
 
-   AAA_ATTR_ERR_BAD_ARG: a handle is 0, for which some give AAA_ATTR_ERR_BAD_LIST; both name the same list.
+   AAA_ATTR_ERR_BAD_ARG: a handle is 0; both name the same list.
    Codes of the source's handle, of adding to the destination (looked at when the first attribute is added) and of
    copying sub-lists. */
-
-/* Makes a deep copy of the list, removed records included.
-   copy: the handle of the copy, written on success only.
-   Owner: the caller, until aaa_attr_list_free.
-   AAA_ATTR_ERR_NO_MEMORY: no block or no handle.
-   AAA_ATTR_ERR_BAD_LIST: handle 0, or a block of another layout version, which a decoded list may have.
-   Codes of the handles. */
-AAA_MUST_CHECK aaa_attr_cerrno aaa_attr_list_copy(aaa_attr_list_handle source, aaa_attr_list_handle *copy) AAA_NOEXCEPT;
 
 /* Adds every attribute of the source, with its producer client type. */
 AAA_MUST_CHECK aaa_attr_cerrno aaa_attr_list_append_list(aaa_attr_list_handle destination,
@@ -290,10 +282,24 @@ AAA_MUST_CHECK aaa_attr_cerrno aaa_attr_list_replace_and_add_v1(aaa_attr_list_ha
 AAA_MUST_CHECK aaa_attr_cerrno aaa_attr_list_merge_double_dip(aaa_attr_list_handle destination,
                                                               aaa_attr_list_handle source) AAA_NOEXCEPT;
 
-/* Moves the source's blocks to the end of the destination, without a copy. The source's handle is gone then.
+/* ---- Whole lists ---- */
+
+/* Makes a deep copy of the list, removed records included.
+   source: the list to copy.
+   copy: the handle of the copy, written on success only.
+   Owner: the caller, until aaa_attr_list_free.
+   AAA_ATTR_ERR_BAD_ARG: copy null. AAA_ATTR_ERR_NO_MEMORY: no block or no handle.
+   AAA_ATTR_ERR_BAD_LIST: also for a block of another layout version, which a decoded list may have.
+   Codes of the handle, and of those of sub-lists. */
+AAA_MUST_CHECK aaa_attr_cerrno aaa_attr_list_copy(aaa_attr_list_handle source, aaa_attr_list_handle *copy) AAA_NOEXCEPT;
+
+/* Moves the source's blocks to the end of the destination, without a copy. The source's handle is gone then. Both lists
+   are unchanged on failure.
+   destination: the list that receives them.
+   source: a list of the caller's, and no sub-list.
    Owner: the destination, of what the source held.
-   AAA_ATTR_ERR_BAD_LIST: a handle is 0. AAA_ATTR_ERR_BAD_ARG: the same list. AAA_ATTR_ERR_NO_MEMORY: more than 65,535
-   blocks together, both lists unchanged. Codes of the handles. */
+   Codes of the handles. AAA_ATTR_ERR_BAD_ARG: both name the same list. AAA_ATTR_ERR_NO_MEMORY: more than 65,535 blocks
+   together. */
 AAA_MUST_CHECK aaa_attr_cerrno aaa_attr_list_merge_list(aaa_attr_list_handle destination,
                                                         aaa_attr_list_handle source) AAA_NOEXCEPT;
 
@@ -302,7 +308,7 @@ AAA_MUST_CHECK aaa_attr_cerrno aaa_attr_list_merge_list(aaa_attr_list_handle des
    types: the types to keep.
    count: how many; only the low 8 bits are used.
    Owner: the caller, of the new list in place of the old one.
-   AAA_ATTR_ERR_BAD_ARG: list null, or types null and a count not 0. AAA_ATTR_ERR_BAD_LIST: *list is 0.
+   AAA_ATTR_ERR_BAD_ARG: list null, or types null and a count not 0.
    AAA_ATTR_ERR_NO_MEMORY: *list stays and the attributes are dropped, but the list is not rebuilt.
    Codes of the handle, and of adding for what a decoded list may hold, with the same effect. */
 AAA_MUST_CHECK aaa_attr_cerrno aaa_attr_filter_on_type(aaa_attr_list_handle *list, const uint32_t *types,

@@ -27,6 +27,7 @@ AAA_BEGIN_DECLS
 /* Measures the list's flat buffer as the list stands, removed attributes included. The second form drops those from the
    list first.
    size: the bytes of the buffer.
+   AAA_ATTR_ERR_BAD_ARG: size null.
    AAA_ATTR_ERR_BAD_FORMAT: a Grouped attribute whose value is not a handle, or more than 2^32 - 1 bytes.
    Codes of the handles, sub-lists' included. */
 AAA_API aaa_attr_cerrno aaa_attr_list_buffer_len(aaa_attr_list_handle list, uint32_t *size) AAA_NOEXCEPT;
@@ -38,9 +39,9 @@ AAA_API aaa_attr_cerrno aaa_attr_list_buffer_coalesce_and_get_len(aaa_attr_list_
    buffer: where to write; null to ask for the size.
    size: in, the capacity of buffer; out, the bytes written, or the size needed.
    AAA_ATTR_ERR_BAD_FORMAT: buffer null or too small, *size is the size needed and nothing is written; or the list
-   cannot be measured, *size is 0.
-   AAA_ATTR_ERR_BAD_ARG: size null.
-   Codes of the handle, from v1 only, *size as it was. */
+   cannot be measured, its handle refused for one, *size is 0.
+   Codes of the handle, from v1 only, *size as it was.
+   AAA_ATTR_ERR_BAD_ARG: size null; v1 looks at the handle first. */
 AAA_MUST_CHECK aaa_attr_cerrno aaa_attr_list_to_buffer(aaa_attr_list_handle list, void *buffer,
                                                        uint32_t *size) AAA_NOEXCEPT;
 AAA_MUST_CHECK aaa_attr_cerrno aaa_attr_list_to_buffer_v1(aaa_attr_list_handle list, void *buffer,
@@ -50,15 +51,16 @@ AAA_MUST_CHECK aaa_attr_cerrno aaa_attr_list_to_buffer_v1(aaa_attr_list_handle l
 
 /* Measures the list's TLV buffer.
    size: the bytes of the records in TLV form; the buffer needs 5 more.
-   AAA_ATTR_ERR_BAD_FORMAT: the buffer would pass 2^32 - 1 bytes.
+   AAA_ATTR_ERR_BAD_ARG: size null. AAA_ATTR_ERR_BAD_FORMAT: the buffer would pass 2^32 - 1 bytes.
    Codes of the handles. */
 AAA_API aaa_attr_cerrno aaa_attr_list_tlv_buffer_len(aaa_attr_list_handle list, uint32_t *size) AAA_NOEXCEPT;
 
 /* Writes the list as a TLV buffer: live attributes only, without producer client types.
    buffer: where to write; null to ask for the size.
    size: in, the capacity of buffer; out, the bytes written, or the size needed.
+   AAA_ATTR_ERR_BAD_ARG: size null.
    AAA_ATTR_ERR_BAD_FORMAT: buffer null or too small, *size is the size needed; or more than 2^32 - 1 bytes, *size is 0.
-   Codes of the handles, *size as it was. */
+   Codes of the handles, sub-lists' included, *size as it was. */
 AAA_MUST_CHECK aaa_attr_cerrno aaa_attr_list_tlv_to_buffer(aaa_attr_list_handle list, void *buffer,
                                                            uint32_t *size) AAA_NOEXCEPT;
 
@@ -73,7 +75,8 @@ AAA_MUST_CHECK aaa_attr_cerrno aaa_attr_list_tlv_to_buffer(aaa_attr_list_handle 
    AAA_ATTR_ERR_BAD_BUFFER: a flat buffer is cut short or does not hold together; lists nest deeper than
    AAA_ATTR_NESTING_MAX. AAA_ATTR_ERR_BAD_LENGTH: the same for a TLV buffer.
    AAA_ATTR_ERR_NOT_FOUND: a TLV record of type 0, or of one that the dictionary does not have.
-   Codes of adding, for TLV records. */
+   AAA_ATTR_ERR_BAD_ARG: a TLV record's value does not suit its type, or is too long for a block.
+   Codes of the handle, where the handle table does not know a list that it has just named. */
 AAA_MUST_CHECK aaa_attr_cerrno aaa_attr_buffer_to_list(const void *buffer, uint32_t length,
                                                        aaa_attr_list_handle *list) AAA_NOEXCEPT;
 
@@ -149,9 +152,9 @@ typedef struct aaa_attr_array_entry {
    array: an array of the caller's, or where the address of an allocated one is put.
    count: in, the capacity of *array, or 0 to have an array allocated; out, the entries written.
    Owner: the caller, of the array: free releases it. The list, of the bytes.
-   AAA_ATTR_ERR_BAD_ARG: array or *array null, or too small; *count is the number needed.
-   AAA_ATTR_ERR_NO_MEMORY: no array. AAA_ATTR_ERR_BAD_FORMAT: a Grouped attribute whose value is not a handle.
-   Codes of the handles. */
+   AAA_ATTR_ERR_BAD_ARG: count null; array null, *array null beside a capacity, or the capacity too small: then *count
+   is the number needed. AAA_ATTR_ERR_NO_MEMORY: no array. AAA_ATTR_ERR_BAD_FORMAT: a Grouped attribute whose value is
+   not a handle, or more than 2^32 - 1 entries. Codes of the handles, sub-lists' included, looked at before array. */
 AAA_MUST_CHECK aaa_attr_cerrno aaa_attr_list_to_array(aaa_attr_list_handle list, aaa_attr_array_entry **array,
                                                       uint32_t *count) AAA_NOEXCEPT;
 

@@ -47,7 +47,7 @@ struct aaa_cursor {
 
 /* Takes a cursor over the list from the pool.
    cursor: null when none was to be had; otherwise to be freed even when the handle is refused.
-   AAA_ATTR_ERR_NO_MEMORY: no pool or no cursor.
+   AAA_ATTR_ERR_BAD_ARG: cursor null. AAA_ATTR_ERR_NO_MEMORY: no pool or no cursor, looked at before the handle.
    Codes of the handle. */
 AAA_API aaa_attr_cerrno aaa_cursor_alloc(aaa_attr_list_handle list, aaa_cursor **cursor) AAA_NOEXCEPT;
 
@@ -67,8 +67,9 @@ AAA_API aaa_attr_cerrno aaa_cursor_alloc_from_buffer(const void *buffer, aaa_cur
 
 /* Takes a cursor over the sub-list of the current Grouped attribute.
    sub_cursor: null on every failure.
-   AAA_ATTR_ERR_NOT_FOUND: no current attribute. AAA_ATTR_ERR_BAD_ARG: it is not Grouped, or the cursor walks a buffer
-   (whose handles mean nothing here). AAA_ATTR_ERR_NO_MEMORY: no cursor.
+   AAA_ATTR_ERR_NOT_FOUND: no current attribute, or cursor null. AAA_ATTR_ERR_BAD_ARG: it is not Grouped, or its value
+   is not a handle; the cursor walks a buffer (whose handles mean nothing here); sub_cursor null.
+   AAA_ATTR_ERR_NO_MEMORY: no cursor.
    Codes of the sub-list's handle. */
 AAA_API aaa_attr_cerrno aaa_cursor_grouped_alloc(const aaa_cursor *cursor, aaa_cursor **sub_cursor) AAA_NOEXCEPT;
 
