@@ -12,6 +12,7 @@ int main(void) {
   uint32_t size = 0;
   uint32_t version = 0;
   puts(aaa_attr_version(&version));
+  if (strcmp(aaa_attr_version(NULL), AAA_ATTR_VERSION_TEXT) != 0) return 1;
   if (version != AAA_ATTR_VERSION || version < AAA_ATTR_VERSION_NUMBER(1, 0, 0)) return 1;
   if (aaa_attr_client_register("client", ids) != 0 || aaa_attr_list_alloc(&sent) != 0) return 1;
   if (aaa_attr_add(sent, aaa_attr_get_type_from_name("username"), "bob", 3, NULL) != 0) return 1;

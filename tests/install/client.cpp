@@ -4,6 +4,8 @@
 namespace attr = attrmgr::attr;
 
 int main() {
+  static_assert(attrmgr::version >= AAA_ATTR_VERSION_NUMBER(1, 0, 0));
+  if (attrmgr::library_version() != attrmgr::version) return 1;
   attrmgr::list sent;
   sent.add(attr::acct_status_type, "Start");
   sent.add_group(attr::subscription_id).add(attr::subscription_id_data, "100-2277");

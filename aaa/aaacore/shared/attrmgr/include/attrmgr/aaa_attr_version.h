@@ -19,6 +19,12 @@ AAA_BEGIN_DECLS
 #define AAA_ATTR_VERSION_NUMBER(major, minor, patch) ((major)*0x10000 + (minor)*0x100 + (patch))
 #define AAA_ATTR_VERSION AAA_ATTR_VERSION_NUMBER(AAA_ATTR_VERSION_MAJOR, AAA_ATTR_VERSION_MINOR, AAA_ATTR_VERSION_PATCH)
 
+/* The version as text: "1.0.0". The other two make it. */
+#define AAA_ATTR_VERSION_TEXT \
+  AAA_ATTR_VERSION_DOTTED(AAA_ATTR_VERSION_MAJOR, AAA_ATTR_VERSION_MINOR, AAA_ATTR_VERSION_PATCH)
+#define AAA_ATTR_VERSION_DOTTED(major, minor, patch) AAA_ATTR_VERSION_QUOTED(major, minor, patch)
+#define AAA_ATTR_VERSION_QUOTED(major, minor, patch) #major "." #minor "." #patch
+
 /* Returns the version of the library that runs, like "1.0.0". A program that meets an older one than it was compiled
    with may miss functions in it.
    number: gets the version as AAA_ATTR_VERSION has it; may be null.

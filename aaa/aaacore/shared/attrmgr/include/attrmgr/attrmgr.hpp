@@ -30,6 +30,16 @@
 
 namespace attrmgr {
 
+// The version that the program is compiled with, and that of the library that it runs with: numbers that grow, as
+// AAA_ATTR_VERSION_NUMBER makes them.
+inline constexpr std::uint32_t version = AAA_ATTR_VERSION;
+
+inline std::uint32_t library_version() noexcept {
+  std::uint32_t number = 0;
+  aaa_attr_version(&number);
+  return number;
+}
+
 // Registers the process with the library, once, before lists are used; ids are its two client identifiers.
 inline void register_client(const char *name, std::uint16_t id0 = 0, std::uint16_t id1 = 0) {
   const std::uint16_t ids[2] = {id0, id1};
