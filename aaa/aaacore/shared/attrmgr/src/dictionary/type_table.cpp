@@ -38,14 +38,15 @@ constexpr TypeRow make_row(std::uint32_t type, std::string_view name, std::uint3
   return {type, format, name, bitmap == kNoBitmap ? nullptr : &aaa_author_flags[bitmap], flags, class_mask, values};
 }
 
-#define ATTR(...) +1
-#define ENUM(...) +1
-static_assert(AAA_ATTR_TYPE_COUNT == 0
+#define ATTR(type, ...) type,
+#define ENUM(type, ...) type,
+constexpr std::uint32_t kTypeNumbers[] = {
 #include "dictionary/attr_types.def"
-              ,
-              "aaa_attr_dict.h: AAA_ATTR_TYPE_COUNT is not the number of rows in attr_types.def");
+};
 #undef ATTR
 #undef ENUM
+static_assert(std::size(kTypeNumbers) == AAA_ATTR_TYPE_COUNT,
+              "aaa_attr_dict.h: AAA_ATTR_TYPE_COUNT is not the number of rows in attr_types.def");
 
 }  // namespace
 
