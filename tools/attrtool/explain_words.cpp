@@ -1,13 +1,12 @@
 #include "explain_words.h"
 
-#include <arpa/inet.h>
 #include <attrmgr/attrmgr.hpp>
 
-#include <array>
 #include <bitset>
 #include <cctype>
 #include <cstring>
-#include <ctime>
+
+#include "text/values.h"
 
 namespace attrtool {
 namespace {
@@ -57,40 +56,8 @@ std::string named(const aaa_attr_value_table &table, std::uint64_t number) {
   return number < table.count ? text + " " + table.names[number] : text;
 }
 
-template <class T>
-std::optional<T> value_as(ByteSpan value) {
-  if (value.size() != sizeof(T)) return std::nullopt;
-  T number;
-  std::memcpy(&number, value.data(), sizeof number);
-  return number;
-}
-
 std::string bytes_text(ByteSpan value) {
   return value.empty() ? "no bytes" : counted(value.size(), "byte") + ": " + quoted(value, kHexLongest);
-}
-
-std::string address_text(ByteSpan value) {
-  char text[INET6_ADDRSTRLEN];
-  const int family = value.size() == sizeof(in_addr) ? AF_INET : AF_INET6;
-  return inet_ntop(family, value.data(), text, sizeof text) != nullptr ? text : bytes_text(value);
-}
-
-std::string prefix_text(ByteSpan value) {
-  std::array<std::uint8_t, AAA_IPV6_PREFIX_SIZE> copy;
-  if (value.size() != copy.size()) return bytes_text(value);
-  std::memcpy(copy.data(), value.data(), copy.size());
-  std::uint8_t address[AAA_IPV6_ADDRESS_SIZE], bits;
-  if (aaa_attr_decode_ipv6_prefix(copy.data(), address, &bits) != 0) return bytes_text(value);
-  return address_text(address) + "/" + std::to_string(bits);
-}
-
-std::string time_text(std::int64_t seconds) {
-  const std::time_t time = seconds;
-  std::tm fields = {};
-  char text[64] = {};
-  if (gmtime_r(&time, &fields) == nullptr || std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", &fields) == 0)
-    return std::to_string(seconds) + " seconds since 1970";
-  return text;
 }
 
 std::string string_text(ByteSpan value, bool ends_in_nul) {
@@ -100,32 +67,14 @@ std::string string_text(ByteSpan value, bool ends_in_nul) {
   return quoted(value.first(value.size() - 1), kTextLongest);
 }
 
-std::string enum_text(std::uint32_t type, std::uint32_t value) {
-  const char *name = aaa_attr_get_enum_name_from_type(type, value);
-  return name != nullptr ? std::string(name) + " (" + std::to_string(value) + ")" : std::to_string(value);
-}
-
-// A value of the format's length; nothing for one of another.
-std::optional<std::string> number_text(std::uint32_t type, std::uint32_t format, ByteSpan value) {
-  const auto number = value_as<std::uint32_t>(value);
-  const auto wide = value_as<std::uint64_t>(value);
-  switch (format) {
-    case AAA_ATTR_FMT_ULONG:
-      return number ? std::optional(std::to_string(*number)) : std::nullopt;
-    case AAA_ATTR_FMT_ENUM:
-      return number ? std::optional(enum_text(type, *number)) : std::nullopt;
-    case AAA_ATTR_FMT_ULONGLONG:
-      return wide ? std::optional(std::to_string(*wide)) : std::nullopt;
-    case AAA_ATTR_FMT_UTC:
-      return wide ? std::optional(time_text(static_cast<std::int64_t>(*wide))) : std::nullopt;
-    case AAA_ATTR_FMT_GROUPED:
-      return wide ? std::optional("the sender's handle") : std::nullopt;
-    case AAA_ATTR_FMT_BOOLEAN:
-      if (value.size() != 1) return std::nullopt;
-      return value[0] != 0 ? "true" : "false";
-    default:
-      return std::nullopt;
-  }
+// The number with its name, which alone would not tell the bytes.
+std::string enum_text(std::uint32_t type, ByteSpan value) {
+  std::uint32_t number;
+  if (value.size() != sizeof number) return bytes_text(value);
+  std::memcpy(&number, value.data(), sizeof number);
+  const std::string digits = std::to_string(number);
+  const char *name = aaa_attr_get_enum_name_from_type(type, number);
+  return name != nullptr ? std::string(name) + " (" + digits + ")" : digits;
 }
 
 bool display_hides(std::uint32_t type) {
@@ -235,22 +184,16 @@ std::string meaning_of(const aaa_attr_field &field) {
 }
 
 std::string value_text(std::uint32_t type, ByteSpan value, bool flat) {
-  const std::uint32_t format = aaa_attr_get_format_from_type(type);
-  if (const auto number = number_text(type, format, value)) return *number;
-  switch (format) {
+  switch (aaa_attr_get_format_from_type(type)) {
     case AAA_ATTR_FMT_STRING:
     case AAA_ATTR_FMT_STRING_ATTR:
       return string_text(value, flat);
-    case AAA_ATTR_FMT_IPV4:
-    case AAA_ATTR_FMT_IPV6:
-    case AAA_ATTR_FMT_ADDRESS:
-      return value.size() == sizeof(in_addr) || value.size() == sizeof(in6_addr) ? address_text(value)
-                                                                                 : bytes_text(value);
-    case AAA_ATTR_FMT_BINARY:
-      if (type == AAA_ATTR_TYPE_PREFIX || type == AAA_ATTR_TYPE_DELEGATED_PREFIX) return prefix_text(value);
-      return bytes_text(value);
+    case AAA_ATTR_FMT_ENUM:
+      return enum_text(type, value);
+    case AAA_ATTR_FMT_GROUPED:
+      return value.size() == sizeof(std::uint64_t) ? "the sender's handle" : bytes_text(value);
     default:
-      return bytes_text(value);
+      return attrtext::plain_from_value(type, std::as_bytes(value)).value_or(bytes_text(value));
   }
 }
 
