@@ -123,6 +123,8 @@ TEST(CppLists, AreChanged) {
   made.replace_types_of(other);
   EXPECT_TRUE(made == other);
   made.set(attr::username, "eve");
+  made.remove_values_of(other);
+  EXPECT_EQ(std::ranges::distance(made), 2) << "another name, and a group of its own";
   made.merge(other);
   EXPECT_EQ(made.get(attr::username), "bob");
   for (const attribute a : list_view(other)) made.add(a);

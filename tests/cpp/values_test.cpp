@@ -194,6 +194,9 @@ TEST(CppErrors, AreResultsOfTheTryForms) {
   list made = *list::try_make();
   EXPECT_TRUE(made.try_add(attr::username, "bob").ok());
   EXPECT_TRUE(made.try_set(attr::username, "eve").ok());
+  EXPECT_TRUE(made.try_set(attr::framed_mtu, 1500, {.flags = AAA_ATTR_META_MANDATORY}, 7).ok());
+  EXPECT_EQ(made.find(attr::framed_mtu)->meta()->flags, AAA_ATTR_META_MANDATORY);
+  made.remove(attr::framed_mtu);
   const auto refused = made.try_add(attr::addr, "nowhere");
   EXPECT_FALSE(refused);
   EXPECT_EQ(refused.code(), AAA_ATTR_ERR_BAD_ARG);

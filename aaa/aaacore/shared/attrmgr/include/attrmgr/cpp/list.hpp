@@ -54,6 +54,12 @@ class list_ref : public list_view {
   result<void> try_set(Attribute type, detail::argument_of<Attribute> value) {
     return detail::as_result(store<aaa_attr_add_or_replace>(type, value, nullptr));
   }
+  template <typed_attribute Attribute>
+  result<void> try_set(Attribute type, detail::argument_of<Attribute> value, const meta &with,
+                       std::uint32_t client_type = 0) {
+    const aaa_attr_meta carried = detail::to_c(with);
+    return detail::as_result(store<aaa_attr_add_or_replace_v2>(type, value, &carried, client_type));
+  }
 
   // Adds a group with an empty sub-list and returns it to be filled; this list owns it.
   list_ref add_group(attr::group_attribute type) { return new_group(type, nullptr); }
@@ -132,9 +138,13 @@ class list_ref : public list_view {
       }
   }
 
-  // Every attribute whose type the other list has; every one that the other list has with the same value.
+  // Every attribute whose type the other list has, with its sub-list.
   void remove_types_of(list_view other) {
     detail::check(aaa_attr_list_remove_list(handle_, other.handle()), "remove the types of a list");
+  }
+  // Every attribute of which the other list has one of the same type and value. Groups stay: no sub-list is in both.
+  void remove_values_of(list_view other) {
+    detail::check(aaa_attr_list_remove_list_on_match(handle_, other.handle()), "remove the values of a list");
   }
 
   // Gives the space of removed attributes back. Views of attributes, texts and bytes end.
