@@ -5,7 +5,6 @@
 #include <chrono>
 #include <filesystem>
 #include <iostream>
-#include <memory>
 #include <optional>
 
 #include "check_captures.h"
@@ -15,22 +14,6 @@
 
 namespace attrtool {
 namespace {
-
-constexpr char kExamples[] = R"(Examples:
-  attrtool check reply.bin           good or refused: which byte, which rule
-  attrtool check captures/           the refused files of a directory, a summary
-  attrtool check --all captures/     the good ones as well
-  attrtool check --strict reply.bin  fit for every reader
-  attrtool check --json captures/ | jq -r 'select(.good == false) | .file'
-
-Exit status: 0 all are good, 1 one is refused, 2 usage or a file that cannot be
-read.)";
-
-struct Arguments {
-  std::vector<std::string> paths;
-  Reading reading;
-  bool json = false, all = false, strict = false;
-};
 
 // A line on a terminal that says how far it has come, and is gone in the end.
 class Progress {
@@ -83,11 +66,8 @@ std::vector<std::string> files_of(const std::vector<std::string> &paths) {
 
 class Run {
  public:
-  explicit Run(const Arguments &arguments)
-      : arguments_(arguments),
-        files_(files_of(arguments.paths)),
-        progress_(files_.size()),
-        in_bulk_(files_ != arguments.paths) {}
+  explicit Run(const Check &asked)
+      : asked_(asked), files_(files_of(asked.paths)), progress_(files_.size()), in_bulk_(files_ != asked.paths) {}
 
   int run() {
     for (const std::string &file : files_) {
@@ -96,8 +76,8 @@ class Run {
     }
     progress_.clear();
     const bool summed_up = in_bulk_ || files_.size() > 1;
-    if (summed_up && arguments_.json) tally_.write_json(std::cout);
-    if (summed_up && !arguments_.json) tally_.write_text(std::cout);
+    if (summed_up && asked_.json) tally_.write_json(std::cout);
+    if (summed_up && !asked_.json) tally_.write_text(std::cout);
     return tally_.unreadable() > 0 ? kUsage : tally_.refused() > 0 ? kNo : kYes;
   }
 
@@ -105,7 +85,7 @@ class Run {
   void check_file(const std::string &file) {
     std::optional<Input> input;
     try {
-      input.emplace(read_input(file, arguments_.reading));
+      input.emplace(read_input(file, asked_.reading));
     } catch (const std::runtime_error &failure) {
       progress_.clear();
       std::cerr << "attrtool: " << failure.what() << '\n';
@@ -113,15 +93,15 @@ class Run {
       return;
     }
     const std::string name = file == "-" ? "standard input" : file;
-    const Checked checked = check(name, Capture(input->bytes()), arguments_.strict);
+    const Checked checked = check(name, Capture(input->bytes()), asked_.strict);
     tally_.add(checked);
-    if (arguments_.json) return write_json(checked, std::cout);
-    if (in_bulk_ && !arguments_.all && checked.refusal == nullptr) return;
+    if (asked_.json) return write_json(checked, std::cout);
+    if (in_bulk_ && !asked_.all && checked.refusal == nullptr) return;
     progress_.clear();
     write_text(checked, std::cout);
   }
 
-  const Arguments &arguments_;
+  const Check &asked_;
   const std::vector<std::string> files_;
   Progress progress_;
   bool in_bulk_;  // found in directories: the good ones are not worth a line
@@ -130,16 +110,6 @@ class Run {
 
 }  // namespace
 
-void add_check(CLI::App &program, const Options &, int *status) {
-  CLI::App *verb = program.add_subcommand("check", "Say which captures are good, and why the others are not");
-  const auto arguments = std::make_shared<Arguments>();
-  verb->add_option("FILE", arguments->paths, "Captures or directories; - is the standard input")->required();
-  verb->add_flag("--json", arguments->json, "Write JSON lines: captures, then a summary");
-  verb->add_flag("--all", arguments->all, "Name the good captures of a directory, too");
-  verb->add_flag("--strict", arguments->strict, "Good are only captures that every reader takes");
-  add_reading(verb, &arguments->reading);
-  verb->footer(kExamples);
-  verb->callback([arguments, status] { *status = Run(*arguments).run(); });
-}
+int run(const Check &asked) { return Run(asked).run(); }
 
 }  // namespace attrtool

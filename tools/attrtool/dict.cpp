@@ -2,7 +2,6 @@
 #include <attrmgr/attrmgr.h>
 
 #include <iostream>
-#include <memory>
 
 #include "dict_search.h"
 #include "explain_json.h"
@@ -11,31 +10,6 @@
 
 namespace attrtool {
 namespace {
-
-constexpr char kExamples[] = R"(Words: part of a name, of a constant or of an RFC's name; a number; a format
-(Enum), a flag (secret), a class (0x2). All of them must suit, so that more
-words find less. A word can say what it means: number= name= constant= format=
-flag= class= service= protocol= rfc= value=. Words that are a type's whole name
-or number show all there is to know of it. Case does not matter, and blanks,
-hyphens and underscores are the same.
-
-Examples:
-  attrtool dict tunnel                      types with "tunnel" in a name
-  attrtool dict 3                           all of one: values, services, more
-  attrtool dict User-Name                   by its name in an RFC
-  attrtool dict AAA_ATTR_TYPE_ADDR          by its constant
-  attrtool dict flag=secret                 never displayed; flag=LI as well
-  attrtool dict service=ppp protocol=ipv6   what may be used with both
-  attrtool dict class=0x2 format=Ulong
-  attrtool dict value=Watchdog              the types that have such a value
-  attrtool dict --json flag=LI | jq -r '.types[].name'
-
-Exit status: 0 found, 1 nothing found (the nearest names are told), 2 usage.)";
-
-struct Arguments {
-  std::vector<std::string> words;
-  bool json = false;
-};
 
 constexpr std::size_t kLabelWidth = 14;
 
@@ -58,7 +32,7 @@ void write_table(const std::vector<const TypeFacts *> &types, bool colours) {
     std::cout << line << painted(colours, Tone::kName, name);
     std::size_t at = line.size() + name.size();
     const std::size_t format_at = kNumber + name_width;
-    std::cout << (is_long ? "\n" + std::string(format_at, ' ') : std::string(format_at - at, ' '));
+    std::cout << (is_long ? std::string("\n").append(format_at, ' ') : std::string(format_at - at, ' '));
     std::string format = facts->format_name();
     if (!notes.empty()) format = padded(format, kFormat);
     std::cout << format << wrapped(joined(notes), format_at + kFormat, format_at + kFormat) << '\n';
@@ -99,7 +73,7 @@ void write_values(const TypeFacts &facts, bool colours) {
     std::string line = std::string(number.size() < 6 ? 6 - number.size() : 0, ' ') + number + "  ";
     const bool fits = line.size() + width + constant.size() <= kLineWidth;
     const std::string after =
-        !fits && !constant.empty() ? "\n" + std::string(line.size() + 2, ' ') + constant : constant;
+        !fits && !constant.empty() ? std::string("\n").append(line.size() + 2, ' ') + constant : constant;
     line += constant.empty() ? std::string(name) : fits ? padded(name, width) : std::string(name);
     std::cout << line << painted(colours, Tone::kFaint, after) << '\n';
   }
@@ -146,35 +120,25 @@ Json type_json(const TypeFacts &facts) {
   return json;
 }
 
-int run(const Arguments &arguments, const Options &options) {
-  const Found found = search(arguments.words);
-  if (arguments.json) {
+}  // namespace
+
+int run(const Dict &asked) {
+  const Found found = search(asked.words);
+  if (asked.json) {
     Json types = Json::array();
     for (const auto *list : {&found.exact, &found.others})
       for (const TypeFacts *facts : *list) types.push_back(type_json(*facts));
     std::cout << json_line({{"version", kJsonVersion}, {"types", std::move(types)}}, 2) << '\n';
     return kYes;
   }
-  const bool colours = options.colours();
-  for (const TypeFacts *facts : found.exact) write_full(*facts, colours);
+  for (const TypeFacts *facts : found.exact) write_full(*facts, asked.colours);
   if (!found.exact.empty() && !found.others.empty()) std::cout << "\nOthers that it is part of:\n";
   if (found.exact.empty() && found.others.size() == 1) {
-    write_full(*found.others.front(), colours);
+    write_full(*found.others.front(), asked.colours);
   } else if (!found.others.empty()) {
-    write_table(found.others, colours);
+    write_table(found.others, asked.colours);
   }
   return kYes;
-}
-
-}  // namespace
-
-void add_dict(CLI::App &program, const Options &options, int *status) {
-  CLI::App *verb = program.add_subcommand("dict", "Search the dictionary of attribute types");
-  const auto arguments = std::make_shared<Arguments>();
-  verb->add_option("WORDS", arguments->words, "What is known of the type; none for all types");
-  verb->add_flag("--json", arguments->json, "Write one JSON object");
-  verb->footer(kExamples);
-  verb->callback([arguments, &options, status] { *status = run(*arguments, options); });
 }
 
 }  // namespace attrtool

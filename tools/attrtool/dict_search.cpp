@@ -7,9 +7,9 @@
 #include <functional>
 #include <optional>
 
+#include "failure.h"
 #include "output.h"
 #include "text/bad_text.h"
-#include "verbs.h"
 
 namespace attrtool {
 namespace {

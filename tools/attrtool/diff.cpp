@@ -1,6 +1,5 @@
 // attrtool diff: what differs between two lists.
 #include <iostream>
-#include <memory>
 #include <sstream>
 
 #include "list_diff.h"
@@ -11,27 +10,6 @@
 
 namespace attrtool {
 namespace {
-
-constexpr char kNotes[] = R"(Each file may be a buffer in any form, text or JSON. Lists are compared as sets:
-neither order nor repetition counts, nor producer client types, which TLV does
-not carry. Lines with - are in A alone, lines with + in B alone; a - and a +
-together are another value, or the same value with another meta. Groups that
-hold something else are shown with what differs in them.
-
-Examples:
-  attrtool diff before.bin after.bin
-  attrtool diff expected.attrs reply.bin    a text against a buffer
-  attrtool diff --hex a.log b.log
-  attrtool diff --json a.bin b.tlv | jq -r '.changes[] | .kind + " " + .name'
-
-Exit status, as of diff(1): 0 nothing differs, 1 something does, 2 usage, or a
-file that cannot be read or is refused.)";
-
-struct Arguments {
-  std::string before, after;
-  Reading reading;
-  bool json = false, show_secrets = false;
-};
 
 struct Writer {
   attrtext::Secrets secrets;
@@ -57,7 +35,7 @@ struct Writer {
   void write(char sign, Tone tone, const std::string &text, std::size_t depth) const {
     std::istringstream lines(text);
     for (std::string line; std::getline(lines, line);)
-      std::cout << painted(colours, tone, sign + (" " + std::string(2 * depth, ' ') + line)) << '\n';
+      std::cout << painted(colours, tone, std::string{sign, ' '}.append(2 * depth, ' ') + line) << '\n';
   }
 
   void write(const Change &change, std::size_t depth) const {
@@ -129,23 +107,22 @@ void write_json_file(const char *key, const std::string &path, const Loaded &loa
   std::cout << "  \"" << key << R"(": {"file": )" << name << R"(, "form": ")" << loaded.form << "\"},\n";
 }
 
-int run(const Arguments &arguments, const Options &options) {
-  if (arguments.before == "-" && arguments.after == "-")
-    throw Failure("only one of the files can be the standard input");
-  const Loaded before = load(arguments.before, arguments.reading), after = load(arguments.after, arguments.reading);
-  const std::vector<Change> changes = difference(before.list, after.list, arguments.show_secrets);
-  const attrtext::Secrets kept = secrets(arguments.show_secrets);
-  if (arguments.json) {
+int compare(const Diff &asked) {
+  if (asked.before == "-" && asked.after == "-") throw Failure("only one of the files can be the standard input");
+  const Loaded before = load(asked.before, asked.reading), after = load(asked.after, asked.reading);
+  const std::vector<Change> changes = difference(before.list, after.list, asked.show_secrets);
+  const attrtext::Secrets kept = secrets(asked.show_secrets);
+  if (asked.json) {
     std::cout << "{\n  \"version\": 1,\n  \"equal\": " << (changes.empty() ? "true" : "false") << ",\n";
-    write_json_file("a", arguments.before, before);
-    write_json_file("b", arguments.after, after);
+    write_json_file("a", asked.before, before);
+    write_json_file("b", asked.after, after);
     std::cout << "  \"changes\": ";
     write_json_changes(changes, kept, 4);
     std::cout << "\n}\n";
   } else if (!changes.empty()) {
-    const Writer writer = {kept, options.colours()};
-    std::cout << "--- " << shown_name(arguments.before) << " (" << before.form << ")\n"
-              << "+++ " << shown_name(arguments.after) << " (" << after.form << ")\n";
+    const Writer writer = {kept, asked.colours};
+    std::cout << "--- " << shown_name(asked.before) << " (" << before.form << ")\n"
+              << "+++ " << shown_name(asked.after) << " (" << after.form << ")\n";
     for (const Change &change : changes) writer.write(change, 0);
   }
   return changes.empty() ? kYes : kNo;
@@ -153,22 +130,12 @@ int run(const Arguments &arguments, const Options &options) {
 
 }  // namespace
 
-void add_diff(CLI::App &program, const Options &options, int *status) {
-  CLI::App *verb = program.add_subcommand("diff", "Say what differs between two lists in any form");
-  const auto arguments = std::make_shared<Arguments>();
-  verb->add_option("A", arguments->before, "One list; - is the standard input")->required();
-  verb->add_option("B", arguments->after, "The other")->required();
-  verb->add_flag("--json", arguments->json, "Write one JSON object");
-  verb->add_flag("--show-secrets", arguments->show_secrets, "Show secret values, and compare LI attributes");
-  add_reading(verb, &arguments->reading);
-  verb->footer(kNotes);
-  verb->callback([arguments, &options, status] {
-    try {
-      *status = run(*arguments, options);
-    } catch (const Refusal &refusal) {
-      throw Failure(refusal.what());  // 1 would say that the lists differ
-    }
-  });
+int run(const Diff &asked) {
+  try {
+    return compare(asked);
+  } catch (const Refusal &refusal) {
+    throw Failure(refusal.what());  // 1 would say that the lists differ
+  }
 }
 
 }  // namespace attrtool

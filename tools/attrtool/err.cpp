@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <charconv>
 #include <iostream>
-#include <memory>
 #include <optional>
 
 #include "dictionary.h"
@@ -15,16 +14,6 @@
 
 namespace attrtool {
 namespace {
-
-constexpr char kExamples[] = R"(Examples:
-  attrtool err                         all codes
-  attrtool err AAA_ATTR_ERR_BAD_ARG    by its name; bad_arg will do
-  attrtool err 0xAFDF8600              as a debugger shows it
-  attrtool err 2950661632              the same unsigned
-  attrtool err -1344305664             the same as diagnostics print it
-  attrtool err --json bad_buffer | jq -r '.codes[].todo[]'
-
-Exit status: 0 known, 1 no result code, 2 usage.)";
 
 // What a code comes from, and what to do about it. The sentence of its meaning is the library's.
 struct Code {
@@ -172,42 +161,29 @@ nlohmann::ordered_json code_json(const Code &row) {
           {"todo", row.todo}};
 }
 
-int run(const std::string &wanted, bool json, bool colours) {
+}  // namespace
+
+int run(const Err &asked) {
   // Success is no failure, but people ask.
-  if (wanted == "0" || wanted == "0x0") {
-    if (json)
+  if (asked.code == "0" || asked.code == "0x0") {
+    if (asked.json)
       std::cout << json_line({{"version", kJsonVersion}, {"codes", nlohmann::ordered_json::array()}}, 2) << '\n';
-    if (!json) std::cout << "0 is success: nothing failed.\n";
+    if (!asked.json) std::cout << "0 is success: nothing failed.\n";
     return kYes;
   }
-  const Code *found = wanted.empty() ? nullptr : find(wanted);
-  if (found == nullptr && !wanted.empty()) refuse(wanted);
-  if (json) {
+  const Code *found = asked.code.empty() ? nullptr : find(asked.code);
+  if (found == nullptr && !asked.code.empty()) refuse(asked.code);
+  if (asked.json) {
     auto list = nlohmann::ordered_json::array();
     for (const Code &row : codes())
       if (found == nullptr || found == &row) list.push_back(code_json(row));
     std::cout << json_line({{"version", kJsonVersion}, {"codes", std::move(list)}}, 2) << '\n';
   } else if (found != nullptr) {
-    write_full(*found, colours);
+    write_full(*found, asked.colours);
   } else {
-    write_table(colours);
+    write_table(asked.colours);
   }
   return kYes;
-}
-
-}  // namespace
-
-void add_err(CLI::App &program, const Options &options, int *status) {
-  struct Arguments {
-    std::string code;
-    bool json = false;
-  };
-  CLI::App *verb = program.add_subcommand("err", "Say what a result code means, and what to do about it");
-  const auto arguments = std::make_shared<Arguments>();
-  verb->add_option("CODE", arguments->code, "A name or a number; none for all codes");
-  verb->add_flag("--json", arguments->json, "Write one JSON object");
-  verb->footer(kExamples);
-  verb->callback([arguments, &options, status] { *status = run(arguments->code, arguments->json, options.colours()); });
 }
 
 }  // namespace attrtool

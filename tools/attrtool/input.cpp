@@ -9,9 +9,9 @@
 #include <cstring>
 #include <limits>
 
+#include "failure.h"
 #include "hex_text.h"
 #include "text/printable.h"
-#include "verbs.h"
 
 namespace attrtool {
 namespace {
@@ -88,11 +88,6 @@ Input read_hex(const std::string &path, ByteSpan text) {
 
 Input::~Input() {
   if (mapped_ != nullptr) munmap(mapped_, bytes_.size());
-}
-
-void add_reading(CLI::App *verb, Reading *reading) {
-  verb->add_flag("--hex", reading->hex, "FILE is text that shows the bytes: see below");
-  verb->add_option("--skip", reading->skipped, "Bytes to leave out before the buffer")->type_name("BYTES");
 }
 
 Input read_input(const std::string &path, const Reading &reading) {

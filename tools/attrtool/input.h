@@ -1,7 +1,8 @@
 // What a verb reads: a file, the standard input, or the bytes that a text shows in hexadecimal.
 #pragma once
 
-#include <CLI/CLI.hpp>
+#include <cstdint>
+#include <span>
 #include <string>
 #include <utility>
 #include <vector>
@@ -15,9 +16,6 @@ struct Reading {
   bool hex = false;
   std::uint64_t skipped = 0;  // bytes before the buffer, such as the headers of a packet
 };
-
-// Adds --hex and --skip.
-void add_reading(CLI::App *verb, Reading *reading);
 
 // The bytes of a file, which may be written to: the file stays as it is. A large file is mapped: the memory of the
 // process grows only with what is written.

@@ -1,9 +1,9 @@
 #include "load.h"
 
 #include "explain_words.h"
+#include "failure.h"
 #include "text/json_reader.h"
 #include "text/text_reader.h"
-#include "verbs.h"
 
 namespace attrtool {
 namespace {

@@ -1,41 +1,58 @@
-// The verbs of attrtool. Each adds its subcommand to the program; when the subcommand is called it sets the exit
-// status.
+// The verbs of attrtool, each with what it is asked; command_line.cpp says what the options mean. run() writes the
+// answer to the standard output and returns the exit status; it throws a Failure or a Refusal where there is none.
 #pragma once
 
-#include <CLI/CLI.hpp>
-#include <stdexcept>
 #include <string>
+#include <vector>
+
+#include "failure.h"
+#include "input.h"
 
 namespace attrtool {
 
-enum ExitStatus : int { kYes = 0, kNo = 1, kUsage = 2 };
-
-// What keeps a verb from answering: a file that cannot be read. what() is a sentence without the program's name.
-class Failure : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
+struct Decode {
+  std::string path, display;
+  Reading reading;
+  bool json = false, show_secrets = false;
 };
+int run(const Decode &asked);
 
-// An answer of no that needs a sentence: a file that is refused, a name that is not known. what() as above.
-class Refusal : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
+struct Encode {
+  std::string path, to = "flat", out = "-";
 };
+int run(const Encode &asked);
 
-// Of the program, whatever the verb.
-struct Options {
-  std::string colour = "auto";
-
-  // Whether what is written to the standard output may be coloured.
-  bool colours() const;
+struct Explain {
+  std::string path;
+  Reading reading;
+  bool json = false, html = false, show_secrets = false, colours = false;
 };
+int run(const Explain &asked);
 
-void add_decode(CLI::App &program, const Options &options, int *status);
-void add_dict(CLI::App &program, const Options &options, int *status);
-void add_diff(CLI::App &program, const Options &options, int *status);
-void add_encode(CLI::App &program, const Options &options, int *status);
-void add_err(CLI::App &program, const Options &options, int *status);
-void add_explain(CLI::App &program, const Options &options, int *status);
-void add_check(CLI::App &program, const Options &options, int *status);
+struct Check {
+  std::vector<std::string> paths;
+  Reading reading;
+  bool json = false, all = false, strict = false;
+};
+int run(const Check &asked);
+
+struct Diff {
+  std::string before, after;
+  Reading reading;
+  bool json = false, show_secrets = false, colours = false;
+};
+int run(const Diff &asked);
+
+struct Dict {
+  std::vector<std::string> words;
+  bool json = false, colours = false;
+};
+int run(const Dict &asked);
+
+struct Err {
+  std::string code;
+  bool json = false, colours = false;
+};
+int run(const Err &asked);
 
 }  // namespace attrtool
